@@ -1,0 +1,43 @@
+// The main form `teselari` as plain state: its surfaces and scroll bars.
+//
+// Every surface keeps the colours and styles the board needs of it: what
+// background it clears to, what colour its lines take, whether it fills
+// closed shapes and flood fills solid black, and whether it takes the size
+// of a picture assigned to it.
+#pragma once
+
+#include "core/Controles.h"
+#include "platform/raster/Superficie.h"
+
+struct FormTeselari {
+    FormTeselari();
+
+    // Puts every control back as the form is loaded, before any picture.
+    void Inicializa();
+
+    // The picture and the cut.
+    Superficie Pic_Origin;   // the picture at its zoom
+    Superficie Pic_W;        // the picture file at its own size, while it is scaled
+    Superficie Pic_Bitmap;   // the picture with the cut lines
+    Superficie Pic_Mascara;  // the figures of a double puzzle, black on white
+    Superficie Pic_Temporal; // the two templates of an irregular puzzle
+
+    // One piece at a time.
+    Superficie Pic_PiezaMascara;
+    Superficie Pic_PiezaImagen;
+    Superficie Pic_PiezaFinal;
+    Superficie Pic_PiezaColor;
+
+    // The board.
+    Superficie Pic_Imagen;  // the board in memory
+    Superficie Pic_Trabajo; // the work area the player sees
+    Superficie Pic_Muestra; // the model, half size, a child of Pic_Trabajo
+    Superficie Pic_Cuadrito;
+    BarraDesplazamiento BarraHor;
+    BarraDesplazamiento BarraVer;
+
+    // The panels the board has to know of.
+    Superficie Pic_BotonesSiempre;
+    Superficie Pic_BSInfo;
+    Superficie Pic_Cronome;
+};

@@ -1,0 +1,113 @@
+// The two shapes of an irregular puzzle, drawn once as filled templates.
+//
+// Template A has knobs out at the top and the bottom and sockets in at the
+// left and the right; template B the other way round, and it stands right of
+// A on Pic_Temporal. Each side is a round knob between two shallow
+// shoulders: the shoulders are flat ellipses (aspect 0.35 on a horizontal
+// side, 2.85 on a vertical one), the knob a circle whose centre stands 0.09
+// of the side from the edge.
+#include "core/PuzzGbl.h"
+#include "core/Redondeo.h"
+#include "cutting/Angulos.h"
+#include "cutting/Corte.h"
+#include "platform/raster/Raster.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+// One arc of a template: centre, radius, angles in degrees, aspect (0: none).
+struct Arco {
+    double x, y, radio, inicio, fin, aspecto;
+};
+
+void DibujaArco(Superficie &s, const Arco &a) {
+    double aspecto = a.aspecto == 0.0 ? 1.0 : static_cast<double>(static_cast<float>(a.aspecto));
+    s.CircleArco(a.x, a.y, a.radio, Radianes(a.inicio), Radianes(a.fin), aspecto);
+}
+
+// Corners, twelve arcs, and the fill from the centre of the cell.
+void DibujaPlantilla(Superficie &s, double x0, double y0, const Arco (&arcos)[12]) {
+    const double w = AnchoPieza, h = AltoPieza;
+    const double x1 = x0 + w, y1 = y0 + h;
+    s.PSet(x0, y0);
+    s.PSet(x1, y0);
+    s.PSet(x0, y1);
+    s.PSet(x1, y1);
+    for (const Arco &a : arcos) {
+        DibujaArco(s, a);
+    }
+    FloodFill(s, Redondea(w / 2 + x0), Redondea(h / 2 + y0), COLOR_NEGRO);
+}
+
+void DibujaPlantillaA(Superficie &s) {
+    const double w = AnchoPieza, h = AltoPieza;
+    const double x0 = MargenX, y0 = MargenY, x1 = x0 + w, y1 = y0 + h;
+    const Arco arcos[12] = {
+        {x0 + 0.22 * w, y0, 0.22 * w, 180, 15, 0.35},
+        {x0 + 0.5 * w, y0 - 0.09 * w, 0.115 * w, 290, 250, 0},
+        {x0 + 0.78 * w, y0, 0.22 * w, 165, 0, 0.35},
+        {x0, y0 + 0.22 * h, 0.22 * h, 90, 350, 2.85},
+        {x0 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 230, 130, 0},
+        {x0, y0 + 0.78 * h, 0.22 * h, 10, 270, 2.85},
+        {x1, y0 + 0.22 * h, 0.22 * h, 190, 90, 2.85},
+        {x1 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 50, 310, 0},
+        {x1, y0 + 0.78 * h, 0.22 * h, 270, 170, 2.85},
+        {x0 + 0.22 * w, y1, 0.22 * w, 345, 180, 0.35},
+        {x0 + 0.5 * w, y1 + 0.09 * w, 0.115 * w, 110, 70, 0},
+        {x0 + 0.78 * w, y1, 0.22 * w, 0, 195, 0.35},
+    };
+    DibujaPlantilla(s, x0, y0, arcos);
+}
+
+// The sockets of B are a little wider than the knobs that enter them, and
+// their opening narrows as the grid grows.
+void DibujaPlantillaB(Superficie &s) {
+    const double w = AnchoPieza, h = AltoPieza, n = PiezasPorLado;
+    const double x0 = MargenX + AnchoPiezaTotal, y0 = MargenY, x1 = x0 + w, y1 = y0 + h;
+    const Arco arcos[12] = {
+        {x0 + 0.22 * w, y0, 0.22 * w, 0, 180, 0.35},
+        {x0 + 0.5 * w, y0 + 0.09 * w, 0.12 * w, 120 - n, 65 + n, 0},
+        {x0 + 0.78 * w, y0, 0.22 * w, 0, 180, 0.35},
+        {x0, y0 + 0.22 * h, 0.22 * h, 250, 90, 2.85},
+        {x0 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 10, 350, 0},
+        {x0, y0 + 0.78 * h, 0.22 * h, 270, 110, 2.85},
+        {x1, y0 + 0.22 * h, 0.22 * h, 90, 290, 2.85},
+        {x1 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 190, 170, 0},
+        {x1, y0 + 0.78 * h, 0.22 * h, 70, 270, 2.85},
+        {x0 + 0.22 * w, y1, 0.22 * w, 180, 0, 0.35},
+        {x0 + 0.5 * w, y1 - 0.09 * w, 0.12 * w, 300 - n, 245 + n, 0},
+        {x0 + 0.78 * w, y1, 0.22 * w, 180, 0, 0.35},
+    };
+    DibujaPlantilla(s, x0, y0, arcos);
+}
+
+// A knob may come out one pixel longer than the rounded margin. Then one row
+// (or one column per template) through the middle is taken out, and the cut
+// lines' last arcs move by the same pixel.
+void CorrigeUnPixel(Superficie &s) {
+    const int32_t a = AnchoPiezaTotal, t = AltoPiezaTotal;
+    AjusteX = 0;
+    AjusteY = 0;
+    if (s.Point(a / 2, t) == COLOR_NEGRO) {
+        BitBlt(s, 0, t / 2, s.Ancho(), t / 2 + 2, s, 0, t / 2 + 1, SRCCOPY);
+        AjusteY = 1;
+    }
+    if (s.Point(2 * a, t / 2) == COLOR_NEGRO) {
+        BitBlt(s, Int(a * 1.5), 0, a / 2 + 2, s.Alto(), s, Int(a * 1.5) + 1, 0, SRCCOPY);
+        BitBlt(s, Int(a * 0.5), 0, a / 2 - 1, s.Alto(), s, Int(a * 0.5) + 1, 0, SRCCOPY);
+        AjusteX = 1;
+    }
+}
+
+} // namespace
+
+void ConstruyePlantillas() {
+    Superficie &s = teselari.Pic_Temporal;
+    // The spare space beyond the two templates takes what the arcs overshoot.
+    s.Move(0, 0, AnchoPiezaTotal * 2.1, AltoPiezaTotal * 1.1);
+    s.Cls();
+    DibujaPlantillaA(s);
+    DibujaPlantillaB(s);
+    CorrigeUnPixel(s);
+}
