@@ -9,6 +9,10 @@
 // home. Deals the pieces unless SesionRestaurando is set.
 void PreparaBitmap();
 
+// Gives every piece its home, puts it there and OrdenPiezas in order; the
+// two pieces of a double cell share the cell.
+void ColocaPiezasEnCasa();
+
 // The two piece templates of an irregular puzzle on Pic_Temporal, with the
 // one-pixel correction (AjusteX, AjusteY).
 void ConstruyePlantillas();

@@ -75,7 +75,8 @@ void PreparaTrabajo() {
     }
 }
 
-// Every piece at home, in order; the pair of a double cell shares it.
+} // namespace
+
 void ColocaPiezasEnCasa() {
     const int32_t n = PiezasPorLado;
     const int32_t mitad = Redondea(NroPiezas / 2.0);
@@ -100,8 +101,6 @@ void ColocaPiezasEnCasa() {
         }
     }
 }
-
-} // namespace
 
 void PreparaBitmap() {
     FormTeselari &f = teselari;
