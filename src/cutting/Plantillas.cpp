@@ -6,6 +6,7 @@
 // shoulders: the shoulders are flat ellipses (aspect 0.35 on a horizontal
 // side, 2.85 on a vertical one), the knob a circle whose centre stands 0.09
 // of the side from the edge.
+#include "cutting/Plantillas.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "cutting/Angulos.h"
@@ -16,70 +17,23 @@ using namespace PuzzGbl;
 
 namespace {
 
-// One arc of a template: centre, radius, angles in degrees, aspect (0: none).
-struct Arco {
-    double x, y, radio, inicio, fin, aspecto;
-};
-
-void DibujaArco(Superficie &s, const Arco &a) {
+void DibujaArco(Superficie &s, const ArcoPlantilla &a) {
     double aspecto = a.aspecto == 0.0 ? 1.0 : static_cast<double>(static_cast<float>(a.aspecto));
     s.CircleArco(a.x, a.y, a.radio, Radianes(a.inicio), Radianes(a.fin), aspecto);
 }
 
 // Corners, twelve arcs, and the fill from the centre of the cell.
-void DibujaPlantilla(Superficie &s, double x0, double y0, const Arco (&arcos)[12]) {
+void DibujaPlantilla(Superficie &s, double x0, double y0, const ArcosPlantilla &arcos) {
     const double w = AnchoPieza, h = AltoPieza;
     const double x1 = x0 + w, y1 = y0 + h;
     s.PSet(x0, y0);
     s.PSet(x1, y0);
     s.PSet(x0, y1);
     s.PSet(x1, y1);
-    for (const Arco &a : arcos) {
+    for (const ArcoPlantilla &a : arcos) {
         DibujaArco(s, a);
     }
     FloodFill(s, Redondea(w / 2 + x0), Redondea(h / 2 + y0), COLOR_NEGRO);
-}
-
-void DibujaPlantillaA(Superficie &s) {
-    const double w = AnchoPieza, h = AltoPieza;
-    const double x0 = MargenX, y0 = MargenY, x1 = x0 + w, y1 = y0 + h;
-    const Arco arcos[12] = {
-        {x0 + 0.22 * w, y0, 0.22 * w, 180, 15, 0.35},
-        {x0 + 0.5 * w, y0 - 0.09 * w, 0.115 * w, 290, 250, 0},
-        {x0 + 0.78 * w, y0, 0.22 * w, 165, 0, 0.35},
-        {x0, y0 + 0.22 * h, 0.22 * h, 90, 350, 2.85},
-        {x0 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 230, 130, 0},
-        {x0, y0 + 0.78 * h, 0.22 * h, 10, 270, 2.85},
-        {x1, y0 + 0.22 * h, 0.22 * h, 190, 90, 2.85},
-        {x1 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 50, 310, 0},
-        {x1, y0 + 0.78 * h, 0.22 * h, 270, 170, 2.85},
-        {x0 + 0.22 * w, y1, 0.22 * w, 345, 180, 0.35},
-        {x0 + 0.5 * w, y1 + 0.09 * w, 0.115 * w, 110, 70, 0},
-        {x0 + 0.78 * w, y1, 0.22 * w, 0, 195, 0.35},
-    };
-    DibujaPlantilla(s, x0, y0, arcos);
-}
-
-// The sockets of B are a little wider than the knobs that enter them, and
-// their opening narrows as the grid grows.
-void DibujaPlantillaB(Superficie &s) {
-    const double w = AnchoPieza, h = AltoPieza, n = PiezasPorLado;
-    const double x0 = MargenX + AnchoPiezaTotal, y0 = MargenY, x1 = x0 + w, y1 = y0 + h;
-    const Arco arcos[12] = {
-        {x0 + 0.22 * w, y0, 0.22 * w, 0, 180, 0.35},
-        {x0 + 0.5 * w, y0 + 0.09 * w, 0.12 * w, 120 - n, 65 + n, 0},
-        {x0 + 0.78 * w, y0, 0.22 * w, 0, 180, 0.35},
-        {x0, y0 + 0.22 * h, 0.22 * h, 250, 90, 2.85},
-        {x0 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 10, 350, 0},
-        {x0, y0 + 0.78 * h, 0.22 * h, 270, 110, 2.85},
-        {x1, y0 + 0.22 * h, 0.22 * h, 90, 290, 2.85},
-        {x1 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 190, 170, 0},
-        {x1, y0 + 0.78 * h, 0.22 * h, 70, 270, 2.85},
-        {x0 + 0.22 * w, y1, 0.22 * w, 180, 0, 0.35},
-        {x0 + 0.5 * w, y1 - 0.09 * w, 0.12 * w, 300 - n, 245 + n, 0},
-        {x0 + 0.78 * w, y1, 0.22 * w, 180, 0, 0.35},
-    };
-    DibujaPlantilla(s, x0, y0, arcos);
 }
 
 // A knob may come out one pixel longer than the rounded margin. Then one row
@@ -102,12 +56,52 @@ void CorrigeUnPixel(Superficie &s) {
 
 } // namespace
 
+ArcosPlantilla ArcosPlantillaA(double x0, double y0, double w, double h) {
+    const double x1 = x0 + w, y1 = y0 + h;
+    return {{
+        {x0 + 0.22 * w, y0, 0.22 * w, 180, 15, 0.35},
+        {x0 + 0.5 * w, y0 - 0.09 * w, 0.115 * w, 290, 250, 0},
+        {x0 + 0.78 * w, y0, 0.22 * w, 165, 0, 0.35},
+        {x0, y0 + 0.22 * h, 0.22 * h, 90, 350, 2.85},
+        {x0 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 230, 130, 0},
+        {x0, y0 + 0.78 * h, 0.22 * h, 10, 270, 2.85},
+        {x1, y0 + 0.22 * h, 0.22 * h, 190, 90, 2.85},
+        {x1 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 50, 310, 0},
+        {x1, y0 + 0.78 * h, 0.22 * h, 270, 170, 2.85},
+        {x0 + 0.22 * w, y1, 0.22 * w, 345, 180, 0.35},
+        {x0 + 0.5 * w, y1 + 0.09 * w, 0.115 * w, 110, 70, 0},
+        {x0 + 0.78 * w, y1, 0.22 * w, 0, 195, 0.35},
+    }};
+}
+
+// The sockets of B are a little wider than the knobs that enter them, and
+// their opening narrows as the grid grows.
+ArcosPlantilla ArcosPlantillaB(double x0, double y0, double w, double h, double n) {
+    const double x1 = x0 + w, y1 = y0 + h;
+    return {{
+        {x0 + 0.22 * w, y0, 0.22 * w, 0, 180, 0.35},
+        {x0 + 0.5 * w, y0 + 0.09 * w, 0.12 * w, 120 - n, 65 + n, 0},
+        {x0 + 0.78 * w, y0, 0.22 * w, 0, 180, 0.35},
+        {x0, y0 + 0.22 * h, 0.22 * h, 250, 90, 2.85},
+        {x0 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 10, 350, 0},
+        {x0, y0 + 0.78 * h, 0.22 * h, 270, 110, 2.85},
+        {x1, y0 + 0.22 * h, 0.22 * h, 90, 290, 2.85},
+        {x1 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 190, 170, 0},
+        {x1, y0 + 0.78 * h, 0.22 * h, 70, 270, 2.85},
+        {x0 + 0.22 * w, y1, 0.22 * w, 180, 0, 0.35},
+        {x0 + 0.5 * w, y1 - 0.09 * w, 0.12 * w, 300 - n, 245 + n, 0},
+        {x0 + 0.78 * w, y1, 0.22 * w, 180, 0, 0.35},
+    }};
+}
+
 void ConstruyePlantillas() {
     Superficie &s = teselari.Pic_Temporal;
     // The spare space beyond the two templates takes what the arcs overshoot.
     s.Move(0, 0, AnchoPiezaTotal * 2.1, AltoPiezaTotal * 1.1);
     s.Cls();
-    DibujaPlantillaA(s);
-    DibujaPlantillaB(s);
+    const double w = AnchoPieza, h = AltoPieza;
+    DibujaPlantilla(s, MargenX, MargenY, ArcosPlantillaA(MargenX, MargenY, w, h));
+    const double xb = MargenX + AnchoPiezaTotal;
+    DibujaPlantilla(s, xb, MargenY, ArcosPlantillaB(xb, MargenY, w, h, PiezasPorLado));
     CorrigeUnPixel(s);
 }
