@@ -2,6 +2,7 @@
 #include "core/PuzzGbl.h"
 #include "cutting/Angulos.h"
 #include "cutting/Corte.h"
+#include "platform/raster/Raster.h"
 
 using namespace PuzzGbl;
 
@@ -46,8 +47,12 @@ void JuntaVertical(Superficie &s, double x, double y, double signo) {
 // The frame, then the joints between cells only: the outer sides are
 // straight. Each joint is drawn twice, one pixel apart, for a line two
 // pixels thick. The sign is +1 exactly where row plus column is even.
+// The last shoulder of a row ends on the right edge of the puzzle; the clip
+// keeps its end pixel off the picture's rest, which no line may touch.
 void DibujaIrregulares(Superficie &s) {
     const int16_t n = PiezasPorLado;
+    const Region puzzle(Rectangulo{0, 0, AnchoPuzzle, AltoPuzzle});
+    SelectClipRgn(s, &puzzle);
     s.Caja(0, 0, AnchoPuzzle - 1, AltoPuzzle - 1);
     for (int16_t fila = 1; fila < n; ++fila) {
         double signo = fila % 2 == 0 ? 1 : -1;
@@ -71,6 +76,7 @@ void DibujaIrregulares(Superficie &s) {
             signo = -signo;
         }
     }
+    SelectClipRgn(s, nullptr);
 }
 
 } // namespace

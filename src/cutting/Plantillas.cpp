@@ -34,6 +34,15 @@ void DibujaPlantilla(Superficie &s, double x0, double y0, const ArcosPlantilla &
         DibujaArco(s, a);
     }
     FloodFill(s, Redondea(w / 2 + x0), Redondea(h / 2 + y0), COLOR_NEGRO);
+    // On a small side the neck of a knob is narrower than its two outline
+    // pixels, and the fill from the centre cannot enter it. A fill from the
+    // knob's own centre makes it solid; on a knob already filled it paints
+    // nothing.
+    for (const ArcoPlantilla &a : arcos) {
+        if (a.perilla) {
+            FloodFill(s, Redondea(a.x), Redondea(a.y), COLOR_NEGRO);
+        }
+    }
 }
 
 // A knob may come out one pixel longer than the rounded margin. Then one row
@@ -60,7 +69,7 @@ ArcosPlantilla ArcosPlantillaA(double x0, double y0, double w, double h) {
     const double x1 = x0 + w, y1 = y0 + h;
     return {{
         {x0 + 0.22 * w, y0, 0.22 * w, 180, 15, 0.35},
-        {x0 + 0.5 * w, y0 - 0.09 * w, 0.115 * w, 290, 250, 0},
+        {x0 + 0.5 * w, y0 - 0.09 * w, 0.115 * w, 290, 250, 0, true},
         {x0 + 0.78 * w, y0, 0.22 * w, 165, 0, 0.35},
         {x0, y0 + 0.22 * h, 0.22 * h, 90, 350, 2.85},
         {x0 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 230, 130, 0},
@@ -69,7 +78,7 @@ ArcosPlantilla ArcosPlantillaA(double x0, double y0, double w, double h) {
         {x1 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 50, 310, 0},
         {x1, y0 + 0.78 * h, 0.22 * h, 270, 170, 2.85},
         {x0 + 0.22 * w, y1, 0.22 * w, 345, 180, 0.35},
-        {x0 + 0.5 * w, y1 + 0.09 * w, 0.115 * w, 110, 70, 0},
+        {x0 + 0.5 * w, y1 + 0.09 * w, 0.115 * w, 110, 70, 0, true},
         {x0 + 0.78 * w, y1, 0.22 * w, 0, 195, 0.35},
     }};
 }
@@ -83,10 +92,10 @@ ArcosPlantilla ArcosPlantillaB(double x0, double y0, double w, double h, double 
         {x0 + 0.5 * w, y0 + 0.09 * w, 0.12 * w, 120 - n, 65 + n, 0},
         {x0 + 0.78 * w, y0, 0.22 * w, 0, 180, 0.35},
         {x0, y0 + 0.22 * h, 0.22 * h, 250, 90, 2.85},
-        {x0 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 10, 350, 0},
+        {x0 - 0.09 * h, y0 + 0.5 * h, 0.115 * h, 10, 350, 0, true},
         {x0, y0 + 0.78 * h, 0.22 * h, 270, 110, 2.85},
         {x1, y0 + 0.22 * h, 0.22 * h, 90, 290, 2.85},
-        {x1 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 190, 170, 0},
+        {x1 + 0.09 * h, y0 + 0.5 * h, 0.115 * h, 190, 170, 0, true},
         {x1, y0 + 0.78 * h, 0.22 * h, 70, 270, 2.85},
         {x0 + 0.22 * w, y1, 0.22 * w, 180, 0, 0.35},
         {x0 + 0.5 * w, y1 - 0.09 * w, 0.12 * w, 300 - n, 245 + n, 0},

@@ -3,9 +3,11 @@
 
 #include <array>
 
-// One arc: centre, radius, start and end in degrees, aspect (0: circular).
+// One arc: centre, radius, start and end in degrees, aspect (0: circular);
+// `perilla` marks the round knob that stands out of the cell.
 struct ArcoPlantilla {
     double x, y, radio, inicio, fin, aspecto;
+    bool perilla = false;
 };
 
 using ArcosPlantilla = std::array<ArcoPlantilla, 12>;

@@ -1,0 +1,273 @@
+// Closure and containment of every cut, over the grids and cell sizes the
+// dialog can make: every n from 3 to 20, cells of 24 to 140 pixels each way
+// within a picture of at most 1024 x 768, in the proportions each cut allows.
+#include <algorithm>
+#include <deque>
+#include <set>
+#include <sstream>
+#include <utility>
+
+#include "core/Redondeo.h"
+#include "cutting/Corte.h"
+#include "motor_comun.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+struct CasoCorte {
+    int16_t tipo, n;
+    int32_t w, h;
+};
+
+std::string NombreCaso(const ::testing::TestParamInfo<CasoCorte> &i) {
+    std::ostringstream s;
+    s << "t" << i.param.tipo << "_n" << i.param.n << "_" << i.param.w << "x" << i.param.h;
+    return s.str();
+}
+
+// The cell sizes tried for one grid: the smallest, the largest the picture
+// allows and one between, each way.
+std::vector<int32_t> Tamanos(int32_t maximo) {
+    std::set<int32_t> t{24, std::min(140, maximo), (24 + std::min(140, maximo)) / 2};
+    return {t.begin(), t.end()};
+}
+
+bool ProporcionPermitida(int16_t tipo, int32_t w, int32_t h) {
+    const double p = static_cast<double>(w) / h;
+    if (tipo == 1) {
+        return p >= 0.476 && p <= 2.1;
+    }
+    if (tipo == 5) {
+        return p >= 0.416 && p <= 2.4;
+    }
+    return true;
+}
+
+std::vector<CasoCorte> Casos(std::initializer_list<int16_t> tipos) {
+    std::vector<CasoCorte> casos;
+    for (int16_t tipo : tipos) {
+        for (int16_t n = 3; n <= 20; ++n) {
+            for (int32_t w : Tamanos(1024 / n)) {
+                for (int32_t h : Tamanos(768 / n)) {
+                    if (ProporcionPermitida(tipo, w, h)) {
+                        casos.push_back({tipo, n, w, h});
+                    }
+                }
+            }
+        }
+    }
+    return casos;
+}
+
+// Prepares the cut without dealing: every piece at home, in order.
+void Corta(const CasoCorte &c) {
+    // A few spare pixels right and below that the grid leaves out.
+    PreparaJuego(c.n, c.tipo, c.n * c.w + c.n / 2, c.n * c.h + c.n / 3);
+    SesionRestaurando = VERDADERO;
+    PreparaBitmap();
+    ColocaPiezasEnCasa();
+}
+
+// The black pixels 8-connected to a seed.
+std::vector<std::pair<int32_t, int32_t>> ComponenteNegra(const Superficie &s, int32_t x,
+                                                         int32_t y) {
+    std::vector<std::pair<int32_t, int32_t>> r;
+    std::vector<uint8_t> visto(static_cast<size_t>(s.Ancho()) * s.Alto(), 0);
+    std::deque<std::pair<int32_t, int32_t>> cola{{x, y}};
+    while (!cola.empty()) {
+        auto [px, py] = cola.front();
+        cola.pop_front();
+        if (px < 0 || py < 0 || px >= s.Ancho() || py >= s.Alto()) {
+            continue;
+        }
+        uint8_t &v = visto[static_cast<size_t>(py) * s.Ancho() + px];
+        if (v != 0 || s.Point(px, py) != COLOR_NEGRO) {
+            continue;
+        }
+        v = 1;
+        r.emplace_back(px, py);
+        for (int dy = -1; dy <= 1; ++dy) {
+            for (int dx = -1; dx <= 1; ++dx) {
+                cola.emplace_back(px + dx, py + dy);
+            }
+        }
+    }
+    return r;
+}
+
+// The picture beyond the puzzle's right and bottom is not cut.
+void CompruebaRestoIntacto() {
+    const Superficie &b = teselari.Pic_Bitmap, &o = teselari.Pic_Origin;
+    for (int32_t y = 0; y < b.Alto(); ++y) {
+        for (int32_t x = 0; x < b.Ancho(); ++x) {
+            if (x >= AnchoPuzzle || y >= AltoPuzzle) {
+                ASSERT_EQ(b.Point(x, y), o.Point(x, y)) << x << "," << y;
+            }
+        }
+    }
+}
+
+// The image of the piece is black wherever its mask is white and is the cut
+// picture wherever the mask is black.
+void CompruebaImagenEnmascarada(const Pieza &q) {
+    const Superficie &m = teselari.Pic_PiezaMascara, &im = teselari.Pic_PiezaImagen;
+    for (int32_t y = 0; y < m.Alto(); ++y) {
+        for (int32_t x = 0; x < m.Ancho(); ++x) {
+            const int32_t bx = q.XCorrecta - MargenX + x, by = q.YCorrecta - MargenY + y;
+            if (m.Point(x, y) != COLOR_NEGRO) {
+                ASSERT_EQ(im.Point(x, y), COLOR_NEGRO) << x << "," << y;
+            } else {
+                ASSERT_EQ(im.Point(x, y), teselari.Pic_Bitmap.Point(bx, by)) << x << "," << y;
+            }
+        }
+    }
+}
+
+} // namespace
+
+class CorteIrregular : public Motor, public ::testing::WithParamInterface<CasoCorte> {};
+
+TEST_P(CorteIrregular, PlantillasCerradasEnSuMitad) {
+    Corta(GetParam());
+    const Superficie &t = teselari.Pic_Temporal;
+    const int32_t ancho = AnchoPiezaTotal, alto = AltoPiezaTotal;
+    for (int32_t mitad = 0; mitad < 2; ++mitad) {
+        const int32_t sx = Redondea(AnchoPieza / 2.0 + MargenX) + mitad * ancho;
+        const int32_t sy = Redondea(AltoPieza / 2.0 + MargenY) - AjusteY;
+        const auto pieza = ComponenteNegra(t, sx, sy);
+        // Filled: at least most of the cell, so the fill ran and stayed in.
+        ASSERT_GE(pieza.size(), static_cast<size_t>(AnchoPieza) * AltoPieza * 3 / 4);
+        for (auto [x, y] : pieza) {
+            ASSERT_GE(x, mitad * ancho) << "plantilla " << mitad;
+            ASSERT_LT(x, (mitad + 1) * ancho) << "plantilla " << mitad;
+            ASSERT_LT(y, alto) << "plantilla " << mitad;
+        }
+    }
+}
+
+TEST_P(CorteIrregular, MascarasRectasEnElBordeYCubrenElPuzzle) {
+    Corta(GetParam());
+    CompruebaRestoIntacto();
+    std::vector<uint8_t> cuenta(static_cast<size_t>(AnchoPuzzle) * AltoPuzzle, 0);
+    const Superficie &m = teselari.Pic_PiezaMascara;
+    for (int16_t i = 1; i <= NroPiezas; ++i) {
+        const Pieza q = Piezas[OrdenPiezas[i]];
+        EnmascaraPieza(i);
+        const bool izq = q.XCorrecta == 0, der = q.XCorrecta + AnchoPieza == AnchoPuzzle;
+        const bool arr = q.YCorrecta == 0, aba = q.YCorrecta + AltoPieza == AltoPuzzle;
+        size_t negros = 0;
+        for (int32_t y = 0; y < m.Alto(); ++y) {
+            for (int32_t x = 0; x < m.Ancho(); ++x) {
+                const bool negro = m.Point(x, y) == COLOR_NEGRO;
+                const bool enCelda = x >= MargenX && x < MargenX + AnchoPieza && y >= MargenY &&
+                                     y < MargenY + AltoPieza;
+                // On an outer side nothing sticks out, and the edge is straight.
+                if ((izq && x < MargenX) || (der && x >= MargenX + AnchoPieza) ||
+                    (arr && y < MargenY) || (aba && y >= MargenY + AltoPieza)) {
+                    ASSERT_FALSE(negro) << "pieza " << q.XCorrecta << "," << q.YCorrecta;
+                }
+                if (enCelda && ((izq && x == MargenX) || (der && x == MargenX + AnchoPieza - 1) ||
+                                (arr && y == MargenY) || (aba && y == MargenY + AltoPieza - 1))) {
+                    ASSERT_TRUE(negro) << "borde " << x << "," << y;
+                }
+                if (!negro) {
+                    continue;
+                }
+                ++negros;
+                const int32_t px = q.XCorrecta - MargenX + x, py = q.YCorrecta - MargenY + y;
+                if (px >= 0 && py >= 0 && px < AnchoPuzzle && py < AltoPuzzle) {
+                    uint8_t &c = cuenta[static_cast<size_t>(py) * AnchoPuzzle + px];
+                    c = static_cast<uint8_t>(std::min(c + 1, 250));
+                }
+            }
+        }
+        ASSERT_GT(negros, static_cast<size_t>(AnchoPieza) * AltoPieza / 2);
+        CompruebaImagenEnmascarada(q);
+    }
+    size_t sinCubrir = 0, solapados = 0;
+    for (uint8_t c : cuenta) {
+        sinCubrir += c == 0;
+        solapados += c > 1;
+    }
+    const double area = static_cast<double>(cuenta.size());
+    const double juntas =
+        static_cast<double>(PiezasPorLado) * (PiezasPorLado - 1) * (AnchoPieza + AltoPieza);
+    // The pieces close up: almost nothing of the puzzle is left out (the
+    // socket is a little wider than its knob), and neighbours meet on their
+    // shared outline, about one pixel along each joint, knobs included.
+    EXPECT_LE(sinCubrir / area, 0.005);
+    EXPECT_LE(solapados / juntas, 1.5);
+    EXPECT_GT(solapados, 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rejillas, CorteIrregular, ::testing::ValuesIn(Casos({1})), NombreCaso);
+
+class CorteDoble : public Motor, public ::testing::WithParamInterface<CasoCorte> {};
+
+TEST_P(CorteDoble, LasDosMascarasDeUnaCeldaSeComplementan) {
+    Corta(GetParam());
+    CompruebaRestoIntacto();
+    const int32_t mitad = NroPiezas / 2;
+    const Superficie &m = teselari.Pic_PiezaMascara;
+    for (int16_t k = 1; k <= mitad; ++k) {
+        const Pieza &q = Piezas[k];
+        ASSERT_EQ(q, Piezas[k + mitad]);
+        EnmascaraPieza(PosicionDe(static_cast<int16_t>(k + mitad)));
+        CompruebaImagenEnmascarada(q);
+        std::vector<uint8_t> interior;
+        for (int32_t y = 0; y < m.Alto(); ++y) {
+            for (int32_t x = 0; x < m.Ancho(); ++x) {
+                interior.push_back(m.Point(x, y) == COLOR_NEGRO);
+            }
+        }
+        EnmascaraPieza(PosicionDe(k));
+        CompruebaImagenEnmascarada(q);
+        size_t nInterior = 0, nExterior = 0, i = 0;
+        for (int32_t y = 0; y < m.Alto(); ++y) {
+            for (int32_t x = 0; x < m.Ancho(); ++x, ++i) {
+                const bool exterior = m.Point(x, y) == COLOR_NEGRO;
+                ASSERT_NE(exterior, interior[i] != 0) << "celda " << k << " " << x << "," << y;
+                nInterior += interior[i];
+                nExterior += exterior;
+            }
+        }
+        ASSERT_GT(nInterior, 0u);
+        ASSERT_GT(nExterior, 0u);
+        // The figure stands in the middle of its cell.
+        ASSERT_NE(interior[static_cast<size_t>(m.Alto() / 2) * m.Ancho() + m.Ancho() / 2], 0);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Rejillas, CorteDoble, ::testing::ValuesIn(Casos({2, 3, 4, 5})),
+                         NombreCaso);
+
+class CorteRectangular : public Motor, public ::testing::WithParamInterface<CasoCorte> {};
+
+TEST_P(CorteRectangular, CadaCeldaTieneSuMarco) {
+    Corta(GetParam());
+    CompruebaRestoIntacto();
+    const Superficie &b = teselari.Pic_Bitmap;
+    const Color linea = static_cast<Color>(ColorContraste);
+    for (int32_t f = 0; f < PiezasPorLado; ++f) {
+        for (int32_t c = 0; c < PiezasPorLado; ++c) {
+            const int32_t x0 = c * AnchoPieza, y0 = f * AltoPieza;
+            const int32_t x1 = x0 + AnchoPieza - 1, y1 = y0 + AltoPieza - 1;
+            for (int32_t x = x0; x <= x1; ++x) {
+                ASSERT_EQ(b.Point(x, y0), linea);
+                ASSERT_EQ(b.Point(x, y1), linea);
+            }
+            for (int32_t y = y0; y <= y1; ++y) {
+                ASSERT_EQ(b.Point(x0, y), linea);
+                ASSERT_EQ(b.Point(x1, y), linea);
+            }
+            // Inside the outline the picture stands untouched.
+            ASSERT_EQ(b.Point(x0 + 1, y0 + 1), teselari.Pic_Origin.Point(x0 + 1, y0 + 1));
+        }
+    }
+    for (uint32_t p : teselari.Pic_Mascara.Pixeles()) {
+        ASSERT_EQ(AColor(p), COLOR_BLANCO);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Rejillas, CorteRectangular, ::testing::ValuesIn(Casos({0})), NombreCaso);

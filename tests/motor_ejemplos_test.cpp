@@ -1,0 +1,267 @@
+// The worked examples of the grid, the difficulty, the margins, the
+// templates, the figures and the scroll ranges.
+#include <cmath>
+
+#include "core/Redondeo.h"
+#include "core/Rejilla.h"
+#include "cutting/Corte.h"
+#include "cutting/Figuras.h"
+#include "cutting/Plantillas.h"
+#include "motor_comun.h"
+
+using namespace PuzzGbl;
+
+TEST(Redondeo, MitadesAlPar) {
+    struct Caso {
+        double v;
+        int32_t redondeado, entero;
+    };
+    const Caso casos[] = {{2.5, 2, 2},     {3.5, 4, 3},      {-2.5, -2, -3}, {0.5, 0, 0},
+                          {1.5, 2, 1},     {12.3, 12, 12},   {16.4, 16, 16}, {-0.4, 0, -1},
+                          {15.75, 16, 15}, {511.5, 512, 511}};
+    for (const Caso &c : casos) {
+        EXPECT_EQ(Redondea(c.v), c.redondeado) << c.v;
+        EXPECT_EQ(Int(c.v), c.entero) << c.v;
+    }
+    EXPECT_EQ(DivEntera(345, 10), 34);
+    EXPECT_EQ(DivEntera(9, 10), 0);
+    EXPECT_EQ(DivEntera(7.5, 2), 4); // 7.5 rounds to 8 before the division
+    EXPECT_EQ(DivEntera(5, 0), 0);
+}
+
+TEST_F(Motor, DificultadDelEjemplo) {
+    // 8 x 8 irregular pieces of 80 x 60 at attraction 50.
+    PreparaJuego(8, 1, 640, 480);
+    CalculaPiezas();
+    EXPECT_EQ(AnchoPieza, 80);
+    EXPECT_EQ(AltoPieza, 60);
+    EXPECT_EQ(NroPiezas, 64);
+    EXPECT_NEAR(Dificultad, 42.530, 0.0005);
+    TipoPieza = 2; // no change by the cut, but double pieces count differently
+    PiezasDobles = 1;
+    CalculaPiezas();
+    EXPECT_EQ(NroPiezas, 128);
+    const float a = static_cast<float>(100.0 - (2400 - 288) / 193.12);
+    const float b = static_cast<float>((128 - 9) / 7.91);
+    EXPECT_FLOAT_EQ(Dificultad, static_cast<float>((static_cast<double>(b) + a + 50.0f) / 3.0));
+}
+
+TEST_F(Motor, DificultadPorTipoYLimites) {
+    PreparaJuego(8, 0, 640, 480);
+    CalculaPiezas();
+    const float base = Dificultad + 1.0f;
+    const float cambio[6] = {-1, -2, 0, 1, 0, 2};
+    for (int16_t t = 0; t <= 5; ++t) {
+        TipoPieza = t;
+        CalculaDificultad();
+        EXPECT_FLOAT_EQ(Dificultad, base + cambio[t]) << "tipo " << t;
+    }
+    // Tiny pieces, many of them, no attraction: above 100 becomes 99.9.
+    AnchoPieza = AltoPieza = 1;
+    NroPiezas = 800;
+    FactorPegado = 0;
+    TipoPieza = 5;
+    CalculaDificultad();
+    EXPECT_FLOAT_EQ(Dificultad, 99.9f);
+    // Huge pieces, few, full attraction: below 0 becomes 0.1, not 0.
+    AnchoPieza = AltoPieza = 300;
+    NroPiezas = 9;
+    FactorPegado = 100;
+    TipoPieza = 0;
+    CalculaDificultad();
+    EXPECT_FLOAT_EQ(Dificultad, 0.1f);
+}
+
+TEST_F(Motor, AnchoPuzzleDejaElResto) {
+    PreparaJuego(7, 0, 1024, 768);
+    CalculaPiezas();
+    EXPECT_EQ(AnchoPieza, 146);
+    EXPECT_EQ(AnchoPuzzle, 1022);
+    EXPECT_EQ(AltoPuzzle, 763);
+    // The model, the scroll range and the work area count with 1024.
+    SesionRestaurando = VERDADERO;
+    PreparaBitmap();
+    EXPECT_EQ(teselari.Pic_Bitmap.Ancho(), 1024);
+    EXPECT_EQ(teselari.Pic_Muestra.Ancho(), 512);
+    EXPECT_EQ(teselari.Pic_Trabajo.Ancho(), 1224);
+    EXPECT_EQ(teselari.Pic_Mascara.Ancho(), 1022);
+}
+
+TEST_F(Motor, MargenesYPlantillasDelEjemplo) {
+    PreparaJuego(8, 1, 640, 480);
+    SesionRestaurando = VERDADERO;
+    PreparaBitmap();
+    EXPECT_EQ(MargenX, 12);
+    EXPECT_EQ(MargenY, 16);
+    EXPECT_EQ(AnchoPiezaTotal, 104);
+    EXPECT_EQ(AltoPiezaTotal, 92);
+    // 218.4 x 101.2 pixels, rounded.
+    EXPECT_EQ(teselari.Pic_Temporal.Ancho(), 218);
+    EXPECT_EQ(teselari.Pic_Temporal.Alto(), 101);
+    // The fills start at the centres of the two cells, and fill them.
+    EXPECT_EQ(teselari.Pic_Temporal.Point(52, 46), COLOR_NEGRO);
+    EXPECT_EQ(teselari.Pic_Temporal.Point(156, 46), COLOR_NEGRO);
+    for (Superficie *s :
+         {&teselari.Pic_PiezaMascara, &teselari.Pic_PiezaImagen, &teselari.Pic_PiezaFinal}) {
+        EXPECT_EQ(s->Ancho(), 104);
+        EXPECT_EQ(s->Alto(), 92);
+    }
+}
+
+TEST(Plantillas, AngulosDeLosHuecosSegunElLado) {
+    struct Caso {
+        int n;
+        double arriba[2], abajo[2];
+    };
+    const Caso casos[] = {
+        {3, {117, 68}, {297, 248}}, {8, {112, 73}, {292, 253}}, {20, {100, 85}, {280, 265}}};
+    for (const Caso &c : casos) {
+        const ArcosPlantilla b = ArcosPlantillaB(116, 16, 80, 60, c.n);
+        EXPECT_DOUBLE_EQ(b[1].inicio, c.arriba[0]) << c.n;
+        EXPECT_DOUBLE_EQ(b[1].fin, c.arriba[1]) << c.n;
+        EXPECT_DOUBLE_EQ(b[10].inicio, c.abajo[0]) << c.n;
+        EXPECT_DOUBLE_EQ(b[10].fin, c.abajo[1]) << c.n;
+        // The socket is wider than the knob that enters it.
+        EXPECT_GT(b[1].radio, ArcosPlantillaA(12, 16, 80, 60)[1].radio);
+    }
+    // No other angle of either template depends on the grid.
+    const ArcosPlantilla b3 = ArcosPlantillaB(0, 0, 80, 60, 3);
+    const ArcosPlantilla b20 = ArcosPlantillaB(0, 0, 80, 60, 20);
+    for (size_t i = 0; i < 12; ++i) {
+        if (i == 1 || i == 10) {
+            continue;
+        }
+        EXPECT_EQ(b3[i].inicio, b20[i].inicio) << i;
+        EXPECT_EQ(b3[i].fin, b20[i].fin) << i;
+    }
+}
+
+TEST(Plantillas, LaPerillaLlegaA0205DelLado) {
+    // Centre 0.09 of the side out, radius 0.115: the knob reaches 0.205.
+    const ArcosPlantilla a = ArcosPlantillaA(0, 0, 100, 50);
+    EXPECT_NEAR(-(a[1].y - a[1].radio), 20.5, 1e-9);     // top knob, from the width
+    EXPECT_NEAR(a[10].y + a[10].radio - 50, 20.5, 1e-9); // bottom knob
+    const ArcosPlantilla b = ArcosPlantillaB(0, 0, 100, 50, 8);
+    EXPECT_NEAR(-(b[4].x - b[4].radio), 10.25, 1e-9);    // left knob, from the height
+    EXPECT_NEAR(b[7].x + b[7].radio - 100, 10.25, 1e-9); // right knob
+}
+
+TEST(Figuras, ValoresDelEjemplo) {
+    const Figura c = CalculaFigura(2, 52, 45);
+    EXPECT_EQ(c.R, 15);
+    const Figura r = CalculaFigura(3, 52, 45);
+    EXPECT_EQ(r.Dx, 10);
+    EXPECT_EQ(r.Dy, 9);
+    const Figura e = CalculaFigura(4, 52, 45);
+    EXPECT_EQ(e.R, 18);
+    EXPECT_FLOAT_EQ(e.E, static_cast<float>(15.75 / 18));
+    const Figura s = CalculaFigura(5, 52, 45);
+    EXPECT_EQ(s.A, 16);
+    EXPECT_EQ(s.B, 18);
+    EXPECT_FLOAT_EQ(s.E1, 16.0f / 9.0f);
+    EXPECT_FLOAT_EQ(s.E2, 8.0f / 18.0f);
+    // Taller than wide: the ellipse's radius becomes the vertical semi-axis.
+    const Figura alta = CalculaFigura(4, 45, 52);
+    EXPECT_EQ(alta.R, 18);
+    EXPECT_FLOAT_EQ(alta.E, static_cast<float>(18 / 15.75));
+    EXPECT_GT(alta.E, 1.0f);
+}
+
+struct CasoBarra {
+    int32_t exceso;
+    int32_t max, paso;
+};
+
+class RangoDeBarras : public Motor, public ::testing::WithParamInterface<CasoBarra> {};
+
+TEST_P(RangoDeBarras, MaxYLargeChange) {
+    const CasoBarra c = GetParam();
+    // Room on a 1024 x 768 screen: 1008 across, 752 down; need = size + 200.
+    PreparaJuego(4, 0, 1008 - 200 + c.exceso, 752 - 200 + c.exceso);
+    SesionRestaurando = VERDADERO;
+    PreparaBitmap();
+    for (const BarraDesplazamiento *b : {&teselari.BarraHor, &teselari.BarraVer}) {
+        EXPECT_EQ(b->Max(), c.max) << c.exceso;
+        if (c.max > 0) {
+            EXPECT_EQ(b->LargeChange, c.paso) << c.exceso;
+        }
+        EXPECT_EQ(b->Value(), 0);
+    }
+    const int32_t w = std::max(1008, 808 + c.exceso + 200);
+    const int32_t h = std::max(752, 552 + c.exceso + 200);
+    EXPECT_EQ(teselari.Pic_Trabajo.Ancho(), w);
+    EXPECT_EQ(teselari.Pic_Trabajo.Alto(), h);
+    EXPECT_EQ(teselari.Pic_Imagen.Ancho(), w);
+    EXPECT_EQ(teselari.Pic_Imagen.Alto(), h);
+}
+
+INSTANTIATE_TEST_SUITE_P(Excesos, RangoDeBarras,
+                         ::testing::Values(CasoBarra{-100, 0, 0}, CasoBarra{0, 0, 0},
+                                           CasoBarra{1, 10, 1}, CasoBarra{9, 10, 1},
+                                           CasoBarra{10, 10, 1}, CasoBarra{345, 345, 34}));
+
+TEST_F(Motor, BarrasYModeloSeColocan) {
+    PreparaJuego(5, 0, 1000, 700, 1280, 1024);
+    ModeloVisible = true;
+    SesionRestaurando = VERDADERO;
+    PreparaBitmap();
+    const FormTeselari &f = teselari;
+    EXPECT_EQ(f.BarraHor.Top, 1024 - 16);
+    EXPECT_EQ(f.BarraHor.Width, 1280 - 16);
+    EXPECT_EQ(f.BarraVer.Left, 1280 - 16);
+    EXPECT_EQ(f.BarraVer.Height, 1024 - 16);
+    EXPECT_EQ(f.Pic_Cuadrito.Left, 1264);
+    EXPECT_EQ(f.Pic_Cuadrito.Top, 1008);
+    EXPECT_EQ(f.Pic_Muestra.Ancho(), 500);
+    EXPECT_EQ(f.Pic_Muestra.Alto(), 350);
+    EXPECT_EQ(f.Pic_Muestra.Left, (1280 - 500) / 2);
+    EXPECT_EQ(f.Pic_Muestra.Top, 1008 - 350);
+    EXPECT_TRUE(f.Pic_Muestra.Visible);
+    // The model is the clean picture at half size: each of its pixels is one
+    // of the 2 x 2 pixels of the picture it stands for, never a blend.
+    for (int32_t y : {0, 10, 175, 349}) {
+        for (int32_t x : {0, 10, 250, 499}) {
+            const Color m = f.Pic_Muestra.Point(x, y);
+            bool hallado = false;
+            for (int32_t dy = 0; dy < 2; ++dy) {
+                for (int32_t dx = 0; dx < 2; ++dx) {
+                    hallado |= f.Pic_Origin.Point(2 * x + dx, 2 * y + dy) == m;
+                }
+            }
+            EXPECT_TRUE(hallado) << x << "," << y;
+        }
+    }
+}
+
+TEST_F(Motor, ColorDeLosCortesSegunElFondo) {
+    for (int16_t fondo = 0; fondo <= 5; ++fondo) {
+        PreparaJuego(3, 0, 330, 240);
+        ColorFondo = fondo;
+        SesionRestaurando = VERDADERO;
+        PreparaBitmap();
+        const Color esperado = fondo > 2 ? COLOR_BLANCO : COLOR_NEGRO;
+        EXPECT_EQ(static_cast<Color>(ColorContraste), esperado) << fondo;
+        EXPECT_EQ(teselari.Pic_Bitmap.Point(0, 0), esperado) << fondo;
+        EXPECT_EQ(teselari.Pic_Bitmap.Point(109, 50), esperado) << fondo; // right edge of a cell
+        EXPECT_EQ(teselari.Pic_Imagen.BackColor(), static_cast<Color>(ColoresFondo[fondo]));
+    }
+}
+
+TEST(Tablas, TextosFijos) {
+    RestauraValoresIniciales();
+    EXPECT_EQ(NuevaLinea, "\r\n");
+    EXPECT_EQ(TextoNroPiezas[3], " 3 x  3 ->   9    ");
+    EXPECT_EQ(TextoNroPiezas[10], "10 x 10 -> 100    ");
+    EXPECT_EQ(TextoNroPiezas[20], "20 x 20 -> 400    ");
+    EXPECT_EQ(TextoNroPiezas[23], " 3 x  3 x 2 ->  18");
+    EXPECT_EQ(TextoNroPiezas[30], "10 x 10 x 2 -> 200");
+    EXPECT_EQ(TextoNroPiezas[40], "20 x 20 x 2 -> 800");
+    EXPECT_EQ(TextoBotones[1], "Ayuda de la aplicación        ");
+    EXPECT_EQ(TextoBotones[11], "Salir de la aplicación        ");
+    EXPECT_EQ(CadenaFija("Histórico de puzzles", 5), "Histó");
+    EXPECT_EQ(ColoresFondo[3], 0x000080);
+    EXPECT_EQ(PiezasPorLado, 8);
+    EXPECT_EQ(Velocidad, 50);
+    EXPECT_EQ(FicheroImagen, " ");
+    EXPECT_EQ(NombreJugador.size(), 9u);
+}

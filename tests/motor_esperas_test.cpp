@@ -1,0 +1,123 @@
+// The pace of the game: the calibration and the two delays, on a clock the
+// test drives, also across midnight.
+#include "core/PuzzGbl.h"
+#include "motor_comun.h"
+#include "services/Esperas.h"
+#include "services/Reloj.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+// A clock that advances a fixed step at each reading.
+double horaFalsa = 0.0;
+double pasoFalso = 0.001;
+int64_t lecturas = 0;
+
+double RelojFalso() {
+    ++lecturas;
+    const double h = horaFalsa;
+    horaFalsa += pasoFalso;
+    if (horaFalsa >= SEGUNDOS_DIA) {
+        horaFalsa -= SEGUNDOS_DIA;
+    }
+    return h;
+}
+
+class Esperas : public Motor {
+  protected:
+    void Arranca(double hora, double paso) {
+        horaFalsa = hora;
+        pasoFalso = paso;
+        lecturas = 0;
+        PonReloj(RelojFalso);
+    }
+    void TearDown() override {
+        PonReloj(nullptr);
+        Motor::TearDown();
+    }
+};
+
+} // namespace
+
+TEST_F(Esperas, CalibracionDeUnSegundoAunqueCruceMedianoche) {
+    for (double hora : {1000.0, SEGUNDOS_DIA - 0.3}) {
+        Arranca(hora, 0.0001);
+        CalibraVelocidad();
+        // One second at 10000 readings a second.
+        EXPECT_NEAR(VueltasPorSegundo, 10000, 2) << hora;
+    }
+}
+
+TEST_F(Esperas, EsperaTiempoSigueLaVelocidad) {
+    struct Caso {
+        int16_t velocidad;
+        int32_t centesimas;
+        double segundos;
+    };
+    const Caso casos[] = {{50, 100, 0.5}, {0, 100, 1.0},    {100, 100, 0.0},
+                          {50, 22, 0.11}, {75, 45, 0.1125}, {0, 5, 0.05}};
+    for (double hora : {30000.0, SEGUNDOS_DIA - 0.05}) {
+        for (const Caso &c : casos) {
+            Velocidad = c.velocidad;
+            Arranca(hora, 0.001);
+            EsperaTiempo(c.centesimas);
+            const double pasado = (lecturas - 1) * 0.001;
+            EXPECT_NEAR(pasado, c.segundos, 0.0105) << c.velocidad << " " << c.centesimas;
+        }
+    }
+}
+
+TEST_F(Esperas, EsperaVueltasDerivaDeLaCalibracion) {
+    VueltasPorSegundo = 3.0e7;
+    Velocidad = 50;
+    const double media = DuracionVueltas(1);
+    // The pace targets: a move of 14 pixels per step at 18 units covers 800
+    // to 1200 pixels a second; dealing 64 pieces at 10 units takes 0.3 to
+    // 0.8 seconds.
+    EXPECT_GE(14.0 / DuracionVueltas(18), 800.0);
+    EXPECT_LE(14.0 / DuracionVueltas(18), 1200.0);
+    EXPECT_GE(64 * DuracionVueltas(10), 0.3);
+    EXPECT_LE(64 * DuracionVueltas(10), 0.8);
+    Velocidad = 0;
+    EXPECT_DOUBLE_EQ(DuracionVueltas(1), 2 * media);
+    Velocidad = 100;
+    EXPECT_EQ(DuracionVueltas(10), 0.0);
+    // Another machine counts otherwise but waits the same.
+    Velocidad = 50;
+    VueltasPorSegundo = 1.0e6;
+    EXPECT_NEAR(DuracionVueltas(1), media, 1e-12);
+    // Uncalibrated or nothing to wait: no wait.
+    VueltasPorSegundo = 0;
+    EXPECT_EQ(DuracionVueltas(5), 0.0);
+    VueltasPorSegundo = 1.0e6;
+    EXPECT_EQ(DuracionVueltas(0), 0.0);
+    EXPECT_EQ(DuracionVueltas(-3), 0.0);
+}
+
+TEST_F(Esperas, EsperaVueltasTerminaAunqueCruceMedianoche) {
+    VueltasPorSegundo = 3.0e7;
+    Velocidad = 50;
+    const double esperado = DuracionVueltas(100);
+    for (double hora : {500.0, SEGUNDOS_DIA - 0.01}) {
+        Arranca(hora, 0.0001);
+        EsperaVueltas(100);
+        EXPECT_NEAR((lecturas - 1) * 0.0001, esperado, 0.0002) << hora;
+    }
+}
+
+TEST(Reloj, CuentaElTiempoPasadoTrasLaMedianoche) {
+    horaFalsa = SEGUNDOS_DIA - 1.0;
+    pasoFalso = 0.25;
+    PonReloj(RelojFalso);
+    Cronometraje c;
+    double ultimo = 0;
+    for (int i = 0; i < 12; ++i) {
+        ultimo = c.Transcurrido();
+    }
+    EXPECT_DOUBLE_EQ(ultimo, 3.0);
+    PonReloj(nullptr);
+    const double t = Timer();
+    EXPECT_GE(t, 0.0);
+    EXPECT_LT(t, SEGUNDOS_DIA);
+}
