@@ -1,0 +1,187 @@
+// BitBlt and StretchBlt: raster operations, clipping, overlap, scaling.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "raster_referencia.h"
+
+namespace {
+
+struct Verdad {
+    uint32_t rop;
+    Color origen, destino, esperado;
+};
+
+// Unknown rops write nothing and return 0.
+const Verdad kVerdades[] = {
+    {SRCCOPY, 0x123456, 0xF0F0F0, 0x123456},
+    {SRCCOPY, 0x000000, 0xFFFFFF, 0x000000},
+    {SRCAND, 0x123456, 0xF0F0F0, 0x103050},
+    {SRCAND, 0xFFFFFF, 0x0F0F0F, 0x0F0F0F},
+    {SRCAND, 0x000000, 0xFFFFFF, 0x000000},
+    {SRCINVERT, 0x123456, 0xF0F0F0, 0xE2C4A6},
+    {SRCINVERT, 0xFFFFFF, 0xFFFFFF, 0x000000},
+    {SRCINVERT, 0x000000, 0x654321, 0x654321},
+    {NOTSRCCOPY, 0x123456, 0xF0F0F0, 0xEDCBA9},
+    {NOTSRCCOPY, 0xFFFFFF, 0x123456, 0x000000},
+    {NOTSRCCOPY, 0x000000, 0x000000, 0xFFFFFF},
+    {DSTANDNOTSRC, 0x123456, 0xF0F0F0, 0xE0C0A0},
+    {DSTANDNOTSRC, 0xFFFFFF, 0xABCDEF, 0x000000},
+    {DSTANDNOTSRC, 0x000000, 0xABCDEF, 0xABCDEF},
+    {0, 0x123456, 0x654321, 0x654321},
+    {0x00EE0086, 0x123456, 0x654321, 0x654321},
+    {0xFFFFFFFF, 0x123456, 0x654321, 0x654321},
+    {0x00CC0021, 0x123456, 0x654321, 0x654321},
+};
+
+// Each rop by its truth table, through BitBlt and a 2x StretchBlt; the store
+// keeps its opaque top byte.
+TEST(RasterBloques, TablasDeVerdad) {
+    for (const Verdad &v : kVerdades) {
+        uint32_t nada;
+        const bool conocida = referencia::Combina(v.rop, 0, 0, nada);
+        for (bool estira : {false, true}) {
+            Superficie o(1, 1, v.origen), d(2, 2, v.destino);
+            const int r = estira ? StretchBlt(d, 0, 0, 2, 2, o, 0, 0, 1, 1, v.rop)
+                                 : BitBlt(d, 0, 0, 1, 1, o, 0, 0, v.rop);
+            EXPECT_EQ(r != 0, conocida);
+            for (int i = 0; i < (estira ? 4 : 1); ++i) {
+                EXPECT_EQ(d.Point(i % 2, i / 2), v.esperado)
+                    << std::hex << v.rop << " " << v.origen;
+                EXPECT_EQ(d.Pixeles()[i] >> 24, 0xFFu);
+            }
+        }
+    }
+}
+
+struct Recorte {
+    int32_t x, y, w, h, xs, ys;
+    int escritos;
+};
+
+// Destination 8x6, source 5x4: every edge of both, outside, empty sizes.
+const Recorte kRecortes[] = {
+    {0, 0, 5, 4, 0, 0, 20},     {-2, 0, 5, 4, 0, 0, 12},  {6, 0, 5, 4, 0, 0, 8},
+    {0, 4, 5, 4, 0, 0, 10},     {0, -3, 5, 4, 0, 0, 5},   {0, 0, 5, 4, -1, 0, 16},
+    {0, 0, 5, 4, 2, 0, 12},     {0, 0, 5, 4, 0, 3, 5},    {0, 0, 5, 4, 0, -2, 10},
+    {3, 2, 100, 100, 0, 0, 20}, {-3, -1, 5, 4, -1, 1, 4}, {20, 0, 5, 4, 0, 0, 0},
+    {-5, 0, 5, 4, 0, 0, 0},     {0, 0, 5, 4, 10, 10, 0},  {0, 0, 0, 4, 0, 0, 0},
+    {0, 0, -3, 4, 0, 0, 0},     {0, 0, 5, -1, 0, 0, 0},   {INT32_MAX - 2, 0, 5, 4, 0, 0, 0}};
+
+TEST(RasterBloques, RecortaBordesDeDestinoYOrigen) {
+    std::mt19937 azar(7);
+    for (const Recorte &c : kRecortes) {
+        const Superficie o(5, 4, COLOR_NEGRO);
+        Superficie d(8, 6), esperado(8, 6);
+        EXPECT_EQ(BitBlt(d, c.x, c.y, c.w, c.h, o, c.xs, c.ys, SRCCOPY), 1);
+        referencia::BitBltLento(esperado, c.x, c.y, c.w, c.h, o, c.xs, c.ys, SRCCOPY);
+        EXPECT_EQ(referencia::Cuenta(d, COLOR_NEGRO), c.escritos) << c.x << "," << c.y;
+        EXPECT_EQ(d.Pixeles(), esperado.Pixeles()) << c.x << "," << c.y;
+    }
+}
+
+// The clip regions a blit meets: a rectangle, an AND, a DIFF with a hole,
+// an empty region.
+std::vector<Region> RegionesDePrueba() {
+    Region rect(Rectangulo{1, 1, 6, 5}), y, hueco, vacia;
+    CombineRgn(y, rect, Region(Rectangulo{3, 0, 9, 3}), RGN_AND);
+    CombineRgn(hueco, Region(Rectangulo{0, 0, 8, 6}), Region(Rectangulo{2, 2, 5, 4}), RGN_DIFF);
+    SetRectRgn(vacia, 4, 4, 4, 9);
+    return {rect, y, hueco, vacia};
+}
+
+TEST(RasterBloques, RespetaLaRegionDeRecorte) {
+    const std::vector<Region> regiones = RegionesDePrueba();
+    const int tipos[] = {SIMPLEREGION, SIMPLEREGION, COMPLEXREGION, NULLREGION};
+    for (size_t k = 0; k < regiones.size(); ++k) {
+        Superficie d(8, 6);
+        const Superficie o(8, 6, COLOR_NEGRO);
+        EXPECT_EQ(SelectClipRgn(d, &regiones[k]), tipos[k]);
+        BitBlt(d, 0, 0, 8, 6, o, 0, 0, SRCCOPY);
+        for (int32_t y = 0; y < 6; ++y) {
+            for (int32_t x = 0; x < 8; ++x) {
+                EXPECT_EQ(d.Point(x, y), regiones[k].Contiene(x, y) ? COLOR_NEGRO : COLOR_BLANCO)
+                    << k << ": " << x << "," << y;
+            }
+        }
+        EXPECT_EQ(SelectClipRgn(d, nullptr), SIMPLEREGION);
+        BitBlt(d, 0, 0, 8, 6, o, 0, 0, SRCCOPY);
+        EXPECT_EQ(referencia::Cuenta(d, COLOR_NEGRO), 48);
+    }
+}
+
+// The fast paths against the per-pixel reference on random cases.
+TEST(RasterBloques, IgualQueLaReferenciaEnCasosAlAzar) {
+    std::mt19937 azar(20240611);
+    const uint32_t rops[] = {SRCCOPY, SRCAND, SRCINVERT, NOTSRCCOPY, DSTANDNOTSRC, 0x00EE0086};
+    const std::vector<Region> regiones = RegionesDePrueba();
+    const auto entre = [&](int a, int b) { return std::uniform_int_distribution<int>(a, b)(azar); };
+    for (int caso = 0; caso < 400; ++caso) {
+        Superficie d = referencia::Aleatoria(entre(0, 12), entre(0, 10), azar);
+        const Superficie o = referencia::Aleatoria(entre(0, 12), entre(0, 10), azar);
+        const bool misma = entre(0, 4) == 0;
+        const int region = entre(-2, 3);
+        if (region >= 0) {
+            d.PonRecorte(&regiones[region]);
+        }
+        const uint32_t rop = rops[entre(0, 5)];
+        const int x = entre(-6, 14), y = entre(-6, 12), xs = entre(-6, 14), ys = entre(-6, 12);
+        const int w = entre(-2, 14), h = entre(-2, 12), ws = entre(-1, 16), hs = entre(-1, 16);
+        Superficie esperado = d;
+        const Superficie &fuente = misma ? d : o;
+        const Superficie &fuente_ref = misma ? esperado : o;
+        if (caso % 2 == 0) {
+            EXPECT_EQ(BitBlt(d, x, y, w, h, fuente, xs, ys, rop),
+                      referencia::BitBltLento(esperado, x, y, w, h, fuente_ref, xs, ys, rop));
+        } else {
+            EXPECT_EQ(
+                StretchBlt(d, x, y, w, h, fuente, xs, ys, ws, hs, rop),
+                referencia::StretchBltLento(esperado, x, y, w, h, fuente_ref, xs, ys, ws, hs, rop));
+        }
+        ASSERT_EQ(d.Pixeles(), esperado.Pixeles()) << "caso " << caso;
+    }
+}
+
+// A surface copied onto itself one pixel off, in each direction, reads the
+// source as it was.
+TEST(RasterBloques, CopiaSobreSiMismaSolapada) {
+    std::mt19937 azar(3);
+    for (int k = 0; k < 9; ++k) {
+        const int dx = k % 3 - 1, dy = k / 3 - 1;
+        const uint32_t rop = k % 2 ? SRCCOPY : SRCINVERT;
+        Superficie s = referencia::Aleatoria(9, 7, azar);
+        const Superficie antes = s;
+        Superficie esperado = s;
+        BitBlt(s, dx, dy, 9, 7, s, 0, 0, rop);
+        referencia::BitBltLento(esperado, dx, dy, 9, 7, antes, 0, 0, rop);
+        EXPECT_EQ(s.Pixeles(), esperado.Pixeles()) << dx << "," << dy;
+    }
+}
+
+TEST(RasterBloques, EstiraPorElPixelMasCercano) {
+    std::mt19937 azar(11);
+    const Superficie o = referencia::Aleatoria(6, 4, azar);
+    Superficie doble(12, 8), mitad(3, 2), igual(6, 4), copia(6, 4);
+    StretchBlt(doble, 0, 0, 12, 8, o, 0, 0, 6, 4, SRCCOPY);
+    for (int32_t y = 0; y < 8; ++y) {
+        for (int32_t x = 0; x < 12; ++x) {
+            EXPECT_EQ(doble.Fila(y)[x], o.Fila(y / 2)[x / 2]);
+        }
+    }
+    // Halving takes whole pixels, the one under each destination centre.
+    StretchBlt(mitad, 0, 0, 3, 2, o, 0, 0, 6, 4, SRCCOPY);
+    for (int32_t y = 0; y < 2; ++y) {
+        for (int32_t x = 0; x < 3; ++x) {
+            EXPECT_EQ(mitad.Fila(y)[x], o.Fila(2 * y + 1)[2 * x + 1]);
+        }
+    }
+    StretchBlt(igual, 1, -1, 6, 4, o, 0, 0, 6, 4, SRCINVERT);
+    BitBlt(copia, 1, -1, 6, 4, o, 0, 0, SRCINVERT);
+    EXPECT_EQ(igual.Pixeles(), copia.Pixeles());
+    EXPECT_EQ(StretchBlt(igual, 0, 0, -6, 4, o, 0, 0, 6, 4, SRCCOPY), 0);
+    EXPECT_EQ(StretchBlt(igual, 0, 0, 6, 4, o, 6, 0, -6, 4, SRCCOPY), 0);
+    EXPECT_EQ(igual.Pixeles(), copia.Pixeles());
+    EXPECT_EQ(SetStretchBltMode(igual, COLORONCOLOR), COLORONCOLOR);
+}
+
+} // namespace

@@ -1,0 +1,88 @@
+// Flood fills: 4-connected, held by 8-connected outlines, clip, references.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "raster_referencia.h"
+
+namespace {
+
+// A diamond drawn with diagonal steps: |x - 10| + |y - 10| == 8. Its inside
+// has 2 * 7 * 8 + 1 = 113 pixels.
+TEST(RasterRellenos, ContornoDiagonalRetieneElRelleno) {
+    Superficie s(21, 21);
+    s.Line(10, 2, 18, 10);
+    s.Line(18, 10, 10, 18);
+    s.Line(10, 18, 2, 10);
+    s.Line(2, 10, 10, 2);
+    s.FillColor = 0x0000FF;
+    EXPECT_EQ(FloodFill(s, 10, 10, COLOR_NEGRO), 1);
+    EXPECT_EQ(referencia::Cuenta(s, 0x0000FF), 113);
+    for (int32_t y = 0; y < 21; ++y) {
+        for (int32_t x = 0; x < 21; ++x) {
+            EXPECT_EQ(s.Point(x, y) == 0x0000FF, std::abs(x - 10) + std::abs(y - 10) < 8);
+        }
+    }
+}
+
+TEST(RasterRellenos, SemillaInvalidaNoPinta) {
+    Superficie s(10, 10);
+    s.Caja(2, 2, 7, 7);
+    s.FillColor = 0x0000FF;
+    const auto antes = s.Pixeles();
+    EXPECT_EQ(FloodFill(s, 2, 4, COLOR_NEGRO), 0);
+    EXPECT_EQ(FloodFill(s, -1, 4, COLOR_NEGRO), 0);
+    EXPECT_EQ(FloodFill(s, 4, 10, COLOR_NEGRO), 0);
+    EXPECT_EQ(ExtFloodFill(s, 4, 4, COLOR_NEGRO, FLOODFILLSURFACE), 0);
+    EXPECT_EQ(ExtFloodFill(s, 4, 4, COLOR_NEGRO, 7), 0);
+    EXPECT_EQ(s.Pixeles(), antes);
+    Superficie vacia;
+    EXPECT_EQ(FloodFill(vacia, 0, 0, COLOR_NEGRO), 0);
+}
+
+// Both kinds of fill on random two-colour patterns, against a plain search;
+// the fill colour is sometimes one of the pattern's colours.
+TEST(RasterRellenos, IgualQueUnaBusquedaSencilla) {
+    std::mt19937 azar(99);
+    const Color colores[] = {0x102030, 0x405060};
+    for (int caso = 0; caso < 60; ++caso) {
+        Superficie s(23, 17);
+        for (int32_t y = 0; y < 17; ++y) {
+            for (int32_t x = 0; x < 23; ++x) {
+                s.Fila(y)[x] = APixel(colores[azar() % 100 < 45]);
+            }
+        }
+        const int32_t x = azar() % 23, y = azar() % 17;
+        const uint32_t semilla = s.Fila(y)[x];
+        const bool superficie = caso % 2 == 0;
+        s.FillColor = caso % 3 == 0 ? colores[1] : 0xABCDEF;
+        const auto area = referencia::Area(s, x, y, [&](uint32_t p) {
+            return superficie ? p == semilla : p != APixel(colores[0]);
+        });
+        Superficie esperado = s;
+        for (size_t i = 0; i < area.size(); ++i) {
+            if (area[i]) {
+                esperado.Fila(i / 23)[i % 23] = APixel(s.FillColor);
+            }
+        }
+        const int r = superficie ? ExtFloodFill(s, x, y, AColor(semilla), FLOODFILLSURFACE)
+                                 : ExtFloodFill(s, x, y, colores[0], FLOODFILLBORDER);
+        EXPECT_EQ(r, superficie || semilla != APixel(colores[0]) ? 1 : 0);
+        ASSERT_EQ(s.Pixeles(), esperado.Pixeles()) << "caso " << caso;
+    }
+}
+
+// Pixels outside the clip region are crossed but not painted.
+TEST(RasterRellenos, RecorteLimitaSoloLaPintura) {
+    Superficie s(12, 5);
+    Region todo(Rectangulo{0, 0, 12, 5}), banda(Rectangulo{5, 0, 7, 5}), r;
+    CombineRgn(r, todo, banda, RGN_DIFF);
+    SelectClipRgn(s, &r);
+    s.FillColor = 0x0000FF;
+    EXPECT_EQ(FloodFill(s, 0, 0, COLOR_NEGRO), 1);
+    for (int32_t x = 0; x < 12; ++x) {
+        EXPECT_EQ(s.Point(x, 2), x == 5 || x == 6 ? COLOR_BLANCO : 0x0000FFu) << x;
+    }
+}
+
+} // namespace

@@ -1,0 +1,176 @@
+// Superficie: size, colours, picture, clip of every write, change reports,
+// text through the installed Rotulador.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <random>
+
+#include "raster_referencia.h"
+
+namespace {
+
+TEST(RasterSuperficie, CambiaTamanoConservaYRellena) {
+    const struct {
+        double ancho, alto;
+        int32_t w, h;
+    } casos[] = {
+        {10.4, 6.5, 10, 7}, {3, 2, 3, 2}, {14.6, 3.49, 15, 3}, {-3, 5, 0, 5}, {0, 0, 0, 0}};
+    std::mt19937 azar(1);
+    for (const auto &c : casos) {
+        Superficie s = referencia::Aleatoria(8, 5, azar);
+        const Superficie antes = s;
+        s.PonBackColorSinPintar(0x00FF00);
+        s.Move(1.6, -2.4, c.ancho, c.alto);
+        EXPECT_EQ(s.Left, 2);
+        EXPECT_EQ(s.Top, -2);
+        ASSERT_EQ(s.Ancho(), c.w);
+        ASSERT_EQ(s.Alto(), c.h);
+        for (int32_t y = 0; y < c.h; ++y) {
+            for (int32_t x = 0; x < c.w; ++x) {
+                EXPECT_EQ(s.Fila(y)[x], x < 8 && y < 5 ? antes.Fila(y)[x] : APixel(0x00FF00));
+            }
+        }
+    }
+}
+
+TEST(RasterSuperficie, FondoCopiaYQuitaImagen) {
+    std::mt19937 azar(2);
+    Superficie s = referencia::Aleatoria(6, 4, azar);
+    Region r(Rectangulo{0, 0, 1, 1});
+    s.PonRecorte(&r); // Cls and the background ignore the clip region
+    s.CurrentX = 3;
+    s.CurrentY = 2;
+    s.PonBackColor(0x112233);
+    EXPECT_EQ(referencia::Cuenta(s, 0x112233), 24);
+    s.PSet(2, 2, COLOR_NEGRO);
+    s.PSet(0, 0, COLOR_NEGRO);
+    EXPECT_EQ(referencia::Cuenta(s, COLOR_NEGRO), 1);
+    s.Cls();
+    EXPECT_EQ(referencia::Cuenta(s, 0x112233), 24);
+    EXPECT_EQ(s.CurrentX, 0);
+    EXPECT_EQ(s.CurrentY, 0);
+
+    const Superficie imagen = referencia::Aleatoria(4, 7, azar);
+    for (bool toma : {false, true}) {
+        Superficie d(6, 4, 0x445566);
+        d.TomaTamanoDeImagen = toma;
+        d.AsignaImagen(imagen);
+        ASSERT_EQ(d.Ancho(), toma ? 4 : 6);
+        ASSERT_EQ(d.Alto(), toma ? 7 : 4);
+        for (int32_t y = 0; y < d.Alto(); ++y) {
+            for (int32_t x = 0; x < d.Ancho(); ++x) {
+                EXPECT_EQ(d.Fila(y)[x], x < 4 ? imagen.Fila(y)[x] : APixel(0x445566));
+            }
+        }
+        d.QuitaImagen();
+        EXPECT_EQ(referencia::Cuenta(d, 0x445566), d.Ancho() * d.Alto());
+    }
+}
+
+// Every kind of write into a surface, each reporting once.
+const std::vector<std::pair<std::function<void(Superficie &)>, Rectangulo>> kEscrituras = {
+    {[](Superficie &s) { s.PSet(3, 4); }, {3, 4, 4, 5}},
+    {[](Superficie &s) { s.Line(1, 1, 6, 1); }, {1, 1, 6, 2}},
+    {[](Superficie &s) { s.Line(-4, 9, 4, 1); }, {0, 2, 4, 6}},
+    {[](Superficie &s) { s.Caja(2, 2, 6, 5); }, {2, 2, 7, 6}},
+    {[](Superficie &s) { s.CajaLlena(7, 6, 20, 1, COLOR_NEGRO); }, {7, 1, 12, 7}},
+    {[](Superficie &s) { s.Circle(6, 5, 3); }, {3, 2, 10, 9}},
+    {[](Superficie &s) { FloodFill(s, 0, 0, COLOR_BLANCO + 1); }, {0, 0, 12, 10}},
+    {[](Superficie &s) { BitBlt(s, -1, 8, 4, 4, Superficie(9, 9, COLOR_NEGRO), 0, 0, SRCCOPY); },
+     {0, 8, 3, 10}},
+    {[](Superficie &s) { StretchBlt(s, -2, 6, 8, 8, Superficie(4, 4), 0, 0, 4, 2, SRCAND); },
+     {0, 6, 6, 10}},
+    {[](Superficie &s) { s.PonBackColor(COLOR_NEGRO); }, {0, 0, 12, 10}},
+    {[](Superficie &s) { s.CambiaTamano(13, 10); }, {0, 0, 13, 10}},
+};
+
+TEST(RasterSuperficie, CadaEscrituraInformaUnaVez) {
+    for (size_t k = 0; k < kEscrituras.size(); ++k) {
+        Superficie s(12, 10);
+        s.FillColor = COLOR_NEGRO;
+        s.RellenaFiguras = true;
+        std::vector<Rectangulo> informes;
+        s.AlCambiar = [&](const Rectangulo &r) { informes.push_back(r); };
+        kEscrituras[k].first(s);
+        EXPECT_EQ(informes, std::vector<Rectangulo>{kEscrituras[k].second}) << "escritura " << k;
+    }
+}
+
+// The same writes with a clip region with a hole change what they change
+// without it, less what the region leaves out.
+TEST(RasterSuperficie, CadaEscrituraRespetaElRecorte) {
+    Region marco;
+    CombineRgn(marco, Region({1, 1, 11, 9}), Region({3, 3, 8, 6}), RGN_DIFF);
+    for (size_t k = 0; k + 2 < kEscrituras.size(); ++k) {
+        Superficie libre(12, 10), recortada(12, 10);
+        recortada.PonRecorte(&marco);
+        for (Superficie *s : {&libre, &recortada}) {
+            s->FillColor = 0x0000FF;
+            s->RellenaFiguras = true;
+            kEscrituras[k].first(*s);
+        }
+        for (int32_t y = 0; y < 10; ++y) {
+            for (int32_t x = 0; x < 12; ++x) {
+                EXPECT_EQ(recortada.Point(x, y),
+                          marco.Contiene(x, y) ? libre.Point(x, y) : COLOR_BLANCO)
+                    << "escritura " << k << " en " << x << "," << y;
+            }
+        }
+    }
+}
+
+TEST(RasterSuperficie, TamanoCeroNoHaceNada) {
+    Superficie s(0, 5), o(3, 3);
+    int informes = 0;
+    s.AlCambiar = [&](const Rectangulo &) { ++informes; };
+    for (size_t k = 0; k + 1 < kEscrituras.size(); ++k) {
+        kEscrituras[k].first(s);
+    }
+    s.EscribePixel(0, 0, 0);
+    EXPECT_EQ(BitBlt(o, 0, 0, 3, 3, s, 0, 0, SRCCOPY), 1);
+    EXPECT_EQ(StretchBlt(o, 0, 0, 3, 3, s, 0, 0, 2, 2, SRCCOPY), 1);
+    EXPECT_EQ(s.Point(0, 0), 0xFFFFFFFFu);
+    EXPECT_EQ(informes, 0);
+    EXPECT_EQ(referencia::Cuenta(o, COLOR_BLANCO), 9);
+}
+
+// Records what the text service is asked.
+class RotuladorDePrueba : public Rotulador {
+  public:
+    std::vector<std::string> llamadas;
+    double Ancho(const Fuente &f, const std::string &t) override {
+        return f.Tamano * static_cast<double>(t.size());
+    }
+    double Alto(const Fuente &f, const std::string &) override { return 2 * f.Tamano; }
+    void Dibuja(Superficie &s, const Fuente &, double x, double y, Color c,
+                const std::string &t) override {
+        llamadas.push_back(t + "@" + std::to_string(int(x)) + "," + std::to_string(int(y)));
+        s.EscribePixel(int32_t(x), int32_t(y), APixel(c));
+    }
+};
+
+TEST(RasterSuperficie, TextoPasaPorElRotulador) {
+    Superficie s(40, 20);
+    s.Letra.Tamano = 3;
+    s.CurrentX = 2;
+    s.CurrentY = 5;
+    s.ForeColor = 0x0000FF;
+    s.Print("sin");
+    EXPECT_EQ(s.TextWidth("abc"), 0);
+    EXPECT_EQ(s.CurrentX, 2);
+    RotuladorDePrueba r;
+    PonRotulador(&r);
+    EXPECT_EQ(RotuladorActual(), &r);
+    std::vector<Rectangulo> informes;
+    s.AlCambiar = [&](const Rectangulo &c) { informes.push_back(c); };
+    s.Print("hola");
+    s.Print("xy");
+    PonRotulador(nullptr);
+    EXPECT_EQ(r.llamadas, (std::vector<std::string>{"hola@2,5", "xy@14,5"}));
+    EXPECT_EQ(s.CurrentX, 20);
+    EXPECT_EQ(s.Point(14, 5), 0x0000FFu);
+    EXPECT_EQ(informes, (std::vector<Rectangulo>{{2, 5, 14, 11}, {14, 5, 20, 11}}));
+    EXPECT_EQ(s.TextHeight("x"), 0);
+}
+
+} // namespace
