@@ -270,6 +270,14 @@ TEST_F(Motor, RestauraBitmapMuestraLaImagenLimpia) {
         }
     }
     EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen));
+    // The next press brings the outlines back over the same rectangle.
+    RecuperaContornos();
+    for (int32_t y = 0; y < AltoPuzzle; y += 5) {
+        for (int32_t x = 0; x < AnchoPuzzle; x += 5) {
+            ASSERT_EQ(teselari.Pic_Trabajo.Point(x, y), teselari.Pic_Bitmap.Point(x, y));
+        }
+    }
+    EXPECT_EQ(teselari.Pic_Trabajo.Point(AnchoPuzzle, 0), static_cast<Color>(ColorContraste));
 }
 
 TEST_F(Motor, LasBarrasMuevenElTrabajo) {

@@ -45,6 +45,12 @@ void RestauraBitmap() {
     Pic_Trabajo_Paint();
 }
 
+void RecuperaContornos() {
+    FormTeselari &f = teselari;
+    BitBlt(f.Pic_Imagen, 0, 0, AnchoPuzzle, AltoPuzzle, f.Pic_Bitmap, 0, 0, SRCCOPY);
+    Pic_Trabajo_Paint();
+}
+
 void PiezaPrioritaria(int16_t posicion) {
     if (posicion < 1 || posicion >= static_cast<int32_t>(OrdenPiezas.size())) {
         return;

@@ -24,6 +24,10 @@ void Pic_Trabajo_Paint();
 // The finished puzzle gives way to the clean picture.
 void RestauraBitmap();
 
+// The reverse: the picture with its cut lines comes back over the puzzle
+// area and the board is repainted (the first press after a finish).
+void RecuperaContornos();
+
 // Brings the piece at `posicion` of OrdenPiezas to the top of the pile,
 // keeping the order of all the others.
 void PiezaPrioritaria(int16_t posicion);
