@@ -82,7 +82,7 @@ void RestauraTrabajo() {
 
 // The row of the grid list: sides in two characters, count in three.
 std::string FilaNroPiezas(int lado, bool dobles) {
-    char texto[32];
+    char texto[64];
     if (dobles) {
         std::snprintf(texto, sizeof texto, "%2d x %2d x 2 -> %3d", lado, lado, 2 * lado * lado);
     } else {
