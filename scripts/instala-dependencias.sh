@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# Installs the Debian 12 packages that building, testing and running Teselari
+# need. Quick and silent when everything is already there.
+set -euo pipefail
+
+PAQUETES=(
+    build-essential
+    cmake
+    ninja-build
+    pkg-config
+    libgtest-dev
+    libgmock-dev
+    libbenchmark-dev
+    qt6-base-dev
+    libgl-dev
+    fonts-dejavu-core
+    clang-format
+    # For the end-to-end tests of the game window.
+    xvfb
+    xdotool
+    imagemagick
+)
+
+falta=()
+for p in "${PAQUETES[@]}"; do
+    estado=$(dpkg-query -W -f='${Status}' "$p" 2>/dev/null || true)
+    if [[ "$estado" != "install ok installed" ]]; then
+        falta+=("$p")
+    fi
+done
+
+if [[ ${#falta[@]} -eq 0 ]]; then
+    exit 0
+fi
+
+echo "Installing: ${falta[*]}"
+
+SUDO=()
+if [[ "$(id -u)" -ne 0 ]]; then
+    if command -v sudo >/dev/null 2>&1; then
+        SUDO=(sudo)
+    else
+        echo "instala-dependencias: not root and no sudo; install these by hand: ${falta[*]}" >&2
+        exit 1
+    fi
+fi
+
+"${SUDO[@]}" apt-get update
+"${SUDO[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y --no-install-recommends "${falta[@]}"

@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# Builds Teselari twice, in Release and with AddressSanitizer and
+# UndefinedBehaviorSanitizer, and runs every test in both builds.
+set -euo pipefail
+
+raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$raiz"
+
+bash scripts/instala-dependencias.sh
+
+# Ninja when there is one, unless the build folder was already configured
+# with another generator.
+configura() {
+    local carpeta=$1
+    shift
+    local generador=()
+    if [[ ! -f "$carpeta/CMakeCache.txt" ]] && command -v ninja >/dev/null 2>&1; then
+        generador=(-G Ninja)
+    fi
+    cmake -S . -B "$carpeta" "${generador[@]}" "$@"
+}
+
+# A failing test run does not stop the script: the other build is still
+# tested, and the exit status tells at the end. A failing build stops it.
+fallos=()
+
+echo "== Release build"
+configura build/release -DCMAKE_BUILD_TYPE=Release -DTESELARI_SANITIZE=OFF \
+    -DTESELARI_TESTS=ON -DTESELARI_BENCH=ON -DTESELARI_TOOLS=ON
+cmake --build build/release -j2
+echo "== Release tests"
+ctest --test-dir build/release --output-on-failure --no-tests=error -j2 || fallos+=(Release)
+
+echo "== Sanitizer build"
+configura build/sanitizers -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESELARI_SANITIZE=ON \
+    -DTESELARI_TESTS=ON -DTESELARI_BENCH=OFF -DTESELARI_TOOLS=OFF
+cmake --build build/sanitizers -j2
+echo "== Sanitizer tests"
+ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+    ctest --test-dir build/sanitizers --output-on-failure --no-tests=error -j2 ||
+    fallos+=(sanitizers)
+
+if [[ ${#fallos[@]} -ne 0 ]]; then
+    echo "== Tests failed in: ${fallos[*]}" >&2
+    exit 1
+fi
+echo "== All builds and tests passed"
