@@ -16,6 +16,6 @@ fi
 cmake -S . -B build/release "${generador[@]}" -DCMAKE_BUILD_TYPE=Release -DTESELARI_TOOLS=ON
 cmake --build build/release -j2 --target teselari_tablero
 
-mkdir -p salida
+mkdir -p "$raiz/salida"
 echo "Pictures written:"
-build/release/teselari_tablero --muestra --lado 6 --tipo 1 --fondo 3 --salida salida "$@"
+build/release/teselari_tablero --muestra --lado 6 --tipo 1 --fondo 3 --salida "$raiz/salida" "$@"
