@@ -9,6 +9,7 @@
 #include <fstream>
 #include <set>
 #include <sstream>
+#include <unistd.h>
 
 #include "Imagenes.h"
 #include "Muestra.h"
@@ -30,9 +31,10 @@ std::optional<Opciones> Lee(std::vector<std::string> args, std::string *error = 
     return o;
 }
 
-// A folder of its own for each test, emptied first.
+// A folder of its own for each test and process, emptied first.
 fs::path CarpetaDePrueba(const std::string &nombre) {
-    const fs::path p = fs::temp_directory_path() / ("teselari_tablero_test_" + nombre);
+    const fs::path p = fs::temp_directory_path() /
+                       ("teselari_tablero_test_" + std::to_string(::getpid()) + "_" + nombre);
     fs::remove_all(p);
     return p;
 }
