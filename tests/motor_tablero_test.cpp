@@ -2,6 +2,7 @@
 // pieces, the deal and the piece in the hand.
 #include <algorithm>
 #include <numeric>
+#include <sstream>
 
 #include "board/Arrastre.h"
 #include "board/Barajar.h"
@@ -190,8 +191,9 @@ TEST_P(Reparto, LaPiezaEnLaManoSaleDeLaImagenYSigueAlRaton) {
 
 INSTANTIATE_TEST_SUITE_P(Juegos, Reparto, ::testing::ValuesIn(JUEGOS),
                          [](const ::testing::TestParamInfo<CasoJuego> &i) {
-                             return "t" + std::to_string(i.param.tipo) + "_n" +
-                                    std::to_string(i.param.n);
+                             std::ostringstream nombre;
+                             nombre << 't' << i.param.tipo << "_n" << i.param.n;
+                             return nombre.str();
                          });
 
 TEST_F(Motor, ElPanelApartaLasPiezasDeSuEsquina) {
