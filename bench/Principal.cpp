@@ -1,0 +1,4 @@
+// The entry point of the benchmark suite.
+#include <benchmark/benchmark.h>
+
+BENCHMARK_MAIN();
