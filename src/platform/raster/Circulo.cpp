@@ -13,8 +13,8 @@
 // - The outline is rasterised by sampling t in N equal steps,
 //   N = max(4, ceil(sweep * max(a, b) * 1.5)), rounding each sample
 //   (floor(v + 0.5)) and joining consecutive ones by line segments with both
-//   ends. The outline is closed and 8-connected, and each of its pixels is
-//   written once (the invert mode inverts it once).
+//   ends. The outline is closed and 8-connected; in the invert mode each
+//   of its pixels is inverted once.
 // - A whole ellipse on a surface that fills figures is first filled with
 //   FillColor over every pixel whose centre satisfies
 //   ((px - cx) / a)^2 + ((py - cy) / b)^2 <= 1; the outline goes over it.
@@ -43,6 +43,15 @@ constexpr double RADIO_MAXIMO = 1048576.0; // 2^20
 void AnadeSegmento(std::vector<Punto> &puntos, Punto p, Punto q, const Rectangulo &r) {
     const int64_t dx = int64_t{q.x} - p.x, dy = int64_t{q.y} - p.y;
     const int64_t n = std::max(std::llabs(dx), std::llabs(dy));
+    if (n <= 1) {
+        // Neighbouring samples, the usual case: both ends are the segment.
+        for (const Punto &e : {p, q}) {
+            if (r.Contiene(e.x, e.y)) {
+                puntos.push_back(e);
+            }
+        }
+        return;
+    }
     for (int64_t i = 0; i <= n; ++i) {
         // Round to nearest, halves away from p, in exact integers.
         const auto paso = [&](int64_t d) {
@@ -136,10 +145,12 @@ void DibujaElipse(Superficie &s, double cx, double cy, double radio, double aspe
         const double t = inicio + barrido * static_cast<double>(k) / static_cast<double>(n);
         const Punto p{static_cast<int32_t>(std::floor(cx + e.a * std::cos(t) + 0.5)),
                       static_cast<int32_t>(std::floor(cy - e.b * std::sin(t) + 0.5))};
-        if (k > 0) {
+        if (k == 0) {
+            anterior = p;
+        } else if (p.x != anterior.x || p.y != anterior.y) {
             AnadeSegmento(puntos, anterior, p, s.Limites());
+            anterior = p;
         }
-        anterior = p;
     }
     Rectangulo caja;
     if (entera && s.RellenaFiguras && e.b > 0) {

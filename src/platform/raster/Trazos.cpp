@@ -53,8 +53,12 @@ Rectangulo EscribePuntos(Superficie &s, std::vector<Punto> &puntos, uint32_t pix
         return a.y != b.y ? a.y < b.y : a.x < b.x;
     };
     const auto igual = [](const Punto &a, const Punto &b) { return a.x == b.x && a.y == b.y; };
-    std::sort(puntos.begin(), puntos.end(), antes);
-    puntos.erase(std::unique(puntos.begin(), puntos.end(), igual), puntos.end());
+    // Copying a pixel twice changes nothing; inverting it twice would undo
+    // it, so only the invert mode needs each pixel once.
+    if (s.DrawMode == DRAWMODE_INVIERTE) {
+        std::sort(puntos.begin(), puntos.end(), antes);
+        puntos.erase(std::unique(puntos.begin(), puntos.end(), igual), puntos.end());
+    }
     Rectangulo caja;
     for (const Punto &p : puntos) {
         s.EscribePixel(p.x, p.y, pixel);

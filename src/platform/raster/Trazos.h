@@ -35,8 +35,8 @@ struct Punto {
 // through the surface's bounds and clip region.
 void PintaTramo(Superficie &s, int32_t y, int32_t x0, int32_t x1, uint32_t pixel, bool invierte);
 
-// Writes each distinct point once through EscribePixel (so the draw mode
-// inverts a pixel once however many times it is listed). Points outside
+// Writes the points through EscribePixel; in the invert mode each distinct
+// point once, however many times it is listed. Points outside
 // the surface are skipped. Returns the bounding rectangle of those written.
 Rectangulo EscribePuntos(Superficie &s, std::vector<Punto> &puntos, uint32_t pixel);
 
