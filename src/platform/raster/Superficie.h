@@ -114,9 +114,7 @@ class Superficie {
 
     // --- raw access for the raster operations ---
     uint32_t *Fila(int32_t y) { return pix_.data() + static_cast<size_t>(y) * ancho_; }
-    const uint32_t *Fila(int32_t y) const {
-        return pix_.data() + static_cast<size_t>(y) * ancho_;
-    }
+    const uint32_t *Fila(int32_t y) const { return pix_.data() + static_cast<size_t>(y) * ancho_; }
     const std::vector<uint32_t> &Pixeles() const { return pix_; }
     Rectangulo Limites() const { return Rectangulo{0, 0, ancho_, alto_}; }
     // Writes one pixel in store form, through clip and draw mode.
