@@ -15,6 +15,9 @@ struct FormTeselari {
     // Puts every control back as the form is loaded, before any picture.
     void Inicializa();
 
+    // The pointer of the whole screen (0 default, 11 hourglass).
+    int16_t MousePointer = 0;
+
     // The picture and the cut.
     Superficie Pic_Origin;   // the picture at its zoom
     Superficie Pic_W;        // the picture file at its own size, while it is scaled

@@ -55,6 +55,11 @@ class Superficie {
     void Move(double left, double top, double ancho, double alto);
     void CambiaTamano(double ancho, double alto);
 
+    // --- what the control shows the mouse, mirrored by the platform ---
+    int16_t MousePointer = 0; // 0 default, 11 hourglass, 12 no entry, 15 arrows, 99 custom
+    std::string MouseIcon;    // the custom cursor's name, upper case
+    std::string ToolTipText;
+
     // --- colours and styles ---
     Color BackColor() const { return fondo_; }
     // Setting the background colour repaints the whole surface with it, as
