@@ -18,6 +18,8 @@ struct ServiciosPlataforma {
     void (*Sonido)(int16_t clip) = nullptr;
     // Lets pending events run (may re-enter any handler).
     void (*Eventos)() = nullptr;
+    // Unloads the main form and ends the process (command 11).
+    void (*Termina)() = nullptr;
 };
 
 // Installs the services (a copy is kept); the default has none.
