@@ -14,6 +14,17 @@ void Configura(Superficie &s, Color fondo, Color tinta, bool tomaTamano = false)
     s.Visible = false;
 }
 
+// A command button: grey, filled solid grey (the shadow of a pressed
+// button is flooded with that brush), no entry until the mouse finds it
+// can act.
+void ConfiguraBoton(Superficie &b) {
+    Configura(b, 0xC0C0C0, COLOR_NEGRO);
+    b.FillColor = 0xC0C0C0;
+    b.RellenaFiguras = true;
+    b.Move(0, 0, 56, 56);
+    b.MousePointer = 12;
+}
+
 } // namespace
 
 FormTeselari::FormTeselari() {
@@ -53,4 +64,15 @@ void FormTeselari::Inicializa() {
     Configura(Pic_Cronome, 0xC0C0C0, 0xFF0000);
     Pic_Cronome.Move(0, 0, 62, 39);
     Pic_Cronome.Letra.Negrita = true;
+
+    Configura(Pic_BotonesDerecho, 0xC0C0C0, COLOR_NEGRO);
+    for (auto *panel : {&Pic_BotonSiempre, &Pic_BotonDerecho}) {
+        for (Superficie &b : *panel) {
+            ConfiguraBoton(b);
+        }
+    }
+    // The pixels of the strip come from the platform; only its size and
+    // background are the form's.
+    Configura(Pic_BmpBoton, 0xC0C0C0, COLOR_NEGRO);
+    Pic_BmpBoton.Move(0, 0, 638, 50);
 }

@@ -6,6 +6,8 @@
 // of a picture assigned to it.
 #pragma once
 
+#include <array>
+
 #include "core/Controles.h"
 #include "platform/raster/Superficie.h"
 
@@ -43,4 +45,13 @@ struct FormTeselari {
     Superficie Pic_BotonesSiempre;
     Superficie Pic_BSInfo;
     Superficie Pic_Cronome;
+
+    // The pop-up panel of the right button, hidden until asked for.
+    Superficie Pic_BotonesDerecho;
+    // One button per command in each panel, index = command (1..11).
+    std::array<Superficie, 12> Pic_BotonSiempre;
+    std::array<Superficie, 12> Pic_BotonDerecho;
+    // The strip of button images, 638 x 50, never on the screen: image i
+    // is the 48 x 48 square at ((i - 1) x 49 + 1, 1).
+    Superficie Pic_BmpBoton;
 };
