@@ -69,3 +69,43 @@ inline int CuentaColor(const Superficie &s, Color c) {
     }
     return n;
 }
+
+// A 1024 x 768 screen with its scroll bars, a board larger than the view
+// (both bars can scroll 200 pixels), the board's twin in the same pixels,
+// and the always-visible panel of eleven buttons in one column.
+inline void PreparaPantallaPaneles() {
+    using namespace PuzzGbl;
+    FormTeselari &f = teselari;
+    AnchoPantalla = 1024;
+    AltoPantalla = 768;
+    f.BarraHor.Left = 0;
+    f.BarraHor.Top = 752;
+    f.BarraHor.Width = 1008;
+    f.BarraVer.Left = 1008;
+    f.BarraVer.Top = 0;
+    f.BarraVer.Height = 752;
+    f.BarraHor.PonMax(200);
+    f.BarraVer.PonMax(200);
+    PintaImagenGenerada(f.Pic_Imagen, 1208, 952);
+    PintaImagenGenerada(f.Pic_Trabajo, 1208, 952);
+    f.Pic_BotonesSiempre.Move(946, 0, 62, 667);
+    ColorContraste = COLOR_BLANCO;
+}
+
+// A text service that draws nothing and remembers what it was asked.
+class RotuladorRegistro : public Rotulador {
+  public:
+    struct Texto {
+        double x, y;
+        Color color;
+        bool negrita;
+        std::string texto;
+    };
+    std::vector<Texto> textos;
+    double Ancho(const Fuente &, const std::string &t) override { return 6.0 * t.size(); }
+    double Alto(const Fuente &, const std::string &) override { return 13.0; }
+    void Dibuja(Superficie &, const Fuente &f, double x, double y, Color c,
+                const std::string &t) override {
+        textos.push_back({x, y, c, f.Negrita, t});
+    }
+};
