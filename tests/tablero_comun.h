@@ -1,0 +1,105 @@
+// Shared set-up of the board tests: a dealt board with every piece where the
+// test wants it, and doubles of the desktop that record sounds and messages
+// and can re-enter handlers while the game lets events through.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "board/Barajar.h"
+#include "board/Render.h"
+#include "cutting/Corte.h"
+#include "motor_comun.h"
+#include "services/Plataforma.h"
+
+// What the desktop was asked to do.
+struct Escritorio {
+    std::vector<int16_t> sonidos;
+    struct Mensaje {
+        std::string titulo, texto;
+        int16_t lineas, botones;
+    };
+    std::vector<Mensaje> mensajes;
+    int32_t eventos = 0;
+    // Runs at each PermiteEventos, with the number of the call (from 1).
+    std::function<void(int32_t)> alDejarPasarEventos;
+    // Runs while a message stands.
+    std::function<void()> alMostrarMensaje;
+};
+
+inline Escritorio escritorio;
+
+inline void InstalaEscritorio() {
+    escritorio = Escritorio{};
+    ServiciosPlataforma s;
+    s.Sonido = [](int16_t clip) { escritorio.sonidos.push_back(clip); };
+    s.Mensaje = [](const std::string &titulo, const std::string &texto) {
+        escritorio.mensajes.push_back(
+            {titulo, texto, PuzzGbl::MensajeLineas, PuzzGbl::MensajeBotones});
+        if (escritorio.alMostrarMensaje) {
+            escritorio.alMostrarMensaje();
+        }
+        return true;
+    };
+    s.Eventos = [] {
+        ++escritorio.eventos;
+        if (escritorio.alDejarPasarEventos) {
+            escritorio.alDejarPasarEventos(escritorio.eventos);
+        }
+    };
+    PonServiciosPlataforma(s);
+}
+
+inline void QuitaEscritorio() {
+    PonServiciosPlataforma(ServiciosPlataforma{});
+    escritorio = Escritorio{};
+}
+
+// Paints the board from the positions and the pile as they stand, as a
+// restored game is painted.
+inline void RepintaTablero() {
+    PuzzGbl::SesionRestaurando = VERDADERO;
+    Barajar();
+    PuzzGbl::SesionRestaurando = FALSO;
+}
+
+// A cut puzzle with every piece at home and the pile in order (piece i at
+// position i), painted, sounds on and recorded.
+inline void PreparaTablero(int16_t lado, int16_t tipo, int32_t ancho, int32_t alto,
+                           int16_t anchoPantalla = 1024, int16_t altoPantalla = 768) {
+    PreparaJuego(lado, tipo, ancho, alto, anchoPantalla, altoPantalla);
+    PuzzGbl::SesionRestaurando = VERDADERO;
+    PreparaBitmap();
+    ColocaPiezasEnCasa();
+    RepintaTablero();
+    PuzzGbl::Sonido = 1;
+    InstalaEscritorio();
+}
+
+// Moves piece k to (x, y) without painting.
+inline void PonPieza(int16_t k, int32_t x, int32_t y) {
+    PuzzGbl::Piezas[k].X = x;
+    PuzzGbl::Piezas[k].Y = y;
+}
+
+// The board as it should look with the piece in the hand: the composite with
+// the piece at position 1 drawn on it.
+inline Superficie ImagenConLaPiezaEnLaMano() {
+    using namespace PuzzGbl;
+    Superficie esperado = teselari.Pic_Imagen;
+    if (TipoPieza != 0) {
+        EnmascaraPieza(1);
+    }
+    MuestraPieza(esperado, 1);
+    return esperado;
+}
+
+// A fixture that also takes the desktop's doubles away.
+class Tablero : public Motor {
+  protected:
+    void TearDown() override {
+        QuitaEscritorio();
+        Motor::TearDown();
+    }
+};

@@ -1,0 +1,316 @@
+// The hand on the board: which piece a click finds through the pile, the
+// hover cursor, the piece carried by the mouse and the scrolling at the edges
+// of the view.
+#include <optional>
+#include <utility>
+
+#include "board/Arrastre.h"
+#include "board/Raton.h"
+#include "board/Render.h"
+#include "board/Seleccion.h"
+#include "services/Sonidos.h"
+#include "tablero_comun.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+using Punto = std::pair<int32_t, int32_t>;
+
+// A pixel of the piece mask in Pic_PiezaMascara with the colour given, the
+// first one met from the corner (or from the centre outwards when asked).
+std::optional<Punto> PuntoDeMascara(Color c, bool desdeElCentro) {
+    const Superficie &m = teselari.Pic_PiezaMascara;
+    const int32_t cx = m.Ancho() / 2, cy = m.Alto() / 2;
+    const int32_t radio = std::max(m.Ancho(), m.Alto());
+    for (int32_t r = 0; r < radio; ++r) {
+        for (int32_t y = 0; y < m.Alto(); ++y) {
+            for (int32_t x = 0; x < m.Ancho(); ++x) {
+                const int32_t d =
+                    desdeElCentro ? std::max(std::abs(x - cx), std::abs(y - cy)) : std::max(x, y);
+                if (d == r && m.Point(x, y) == c) {
+                    return Punto{x, y};
+                }
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+// A pixel of the cell of piece k on Pic_Mascara with the colour given.
+std::optional<Punto> PuntoDeCelda(int16_t k, Color c) {
+    const Pieza &q = Piezas[k];
+    for (int32_t y = 0; y < AltoPieza; ++y) {
+        for (int32_t x = 0; x < AnchoPieza; ++x) {
+            if (teselari.Pic_Mascara.Point(q.XCorrecta + x, q.YCorrecta + y) == c) {
+                return Punto{x, y};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+// The piece at `posicion` comes to the top and is gripped at (x, y), as a
+// press does.
+void Agarra(int16_t posicion, int32_t x, int32_t y) {
+    PiezaPrioritaria(posicion);
+    LevantaPieza(x, y);
+}
+
+} // namespace
+
+TEST_F(Tablero, UnHuecoDeLaPiezaDeArribaDejaVerLaDeAbajo) {
+    PreparaTablero(4, 1, 400, 300);
+    const int16_t arriba = 6, abajo = 11;
+    PonPieza(arriba, 500, 300);
+    PiezaPrioritaria(PosicionDe(abajo));
+    PiezaPrioritaria(PosicionDe(arriba));
+    ASSERT_EQ(OrdenPiezas[1], arriba);
+    ASSERT_EQ(OrdenPiezas[2], abajo);
+    // A transparent pixel of the upper box and an opaque pixel of the lower
+    // piece, made to coincide.
+    EnmascaraPieza(1);
+    const auto hueco = PuntoDeMascara(COLOR_BLANCO, false);
+    const auto lleno = PuntoDeMascara(COLOR_NEGRO, true);
+    EnmascaraPieza(2);
+    const auto llenoAbajo = PuntoDeMascara(COLOR_NEGRO, true);
+    ASSERT_TRUE(hueco && lleno && llenoAbajo);
+    const int32_t hx = 500 - MargenX + hueco->first, hy = 300 - MargenY + hueco->second;
+    PonPieza(abajo, hx - llenoAbajo->first + MargenX, hy - llenoAbajo->second + MargenY);
+    RepintaTablero();
+
+    struct Caso {
+        const char *que;
+        int32_t x, y;
+        int16_t posicion;
+    };
+    const int32_t ax = 500 - MargenX, ay = 300 - MargenY;
+    const Caso casos[] = {
+        {"gap of the upper piece over the lower one", hx, hy, 2},
+        {"opaque pixel of the upper piece", ax + lleno->first, ay + lleno->second, 1},
+        {"far corner of the upper box, nothing below", ax + AnchoPiezaTotal - 1 - hueco->first,
+         ay + AltoPiezaTotal - 1 - hueco->second, 0},
+    };
+    for (const Caso &c : casos) {
+        EXPECT_EQ(PiezaTocada(c.x, c.y), c.posicion) << c.que;
+        if (c.posicion != 0) {
+            EXPECT_EQ(PiezaTemporal, Piezas[OrdenPiezas[c.posicion]]) << c.que;
+        }
+    }
+}
+
+TEST_F(Tablero, GanaLaPiezaMasAltaYLaCajaIncluyeSusBordes) {
+    PreparaTablero(4, 0, 320, 240); // cells of 80 x 60
+    PonPieza(3, 500, 300);
+    PonPieza(9, 540, 330); // overlaps the lower right quarter of piece 3
+    PiezaPrioritaria(PosicionDe(3));
+    PiezaPrioritaria(PosicionDe(9));
+    RepintaTablero();
+    struct Caso {
+        int32_t x, y;
+        int16_t pieza; // 0: none
+    };
+    const Caso casos[] = {
+        {545, 335, 9}, // the overlap: the upper one
+        {505, 305, 3}, {539, 359, 3}, {579, 329, 3}, {580, 300, 0}, {500, 360, 0},
+        {619, 389, 9}, {620, 389, 0}, {619, 390, 0}, {540, 330, 9}, {539, 329, 3},
+        {499, 300, 0}, {10, 10, 16}, // the top left cell is the last piece
+    };
+    for (const Caso &c : casos) {
+        const int16_t i = PiezaTocada(c.x, c.y);
+        EXPECT_EQ(i == 0 ? 0 : OrdenPiezas[i], c.pieza) << c.x << ", " << c.y;
+    }
+}
+
+class Parejas : public Tablero, public ::testing::WithParamInterface<int16_t> {};
+
+TEST_P(Parejas, LaFiguraYElMarcoDeUnaCeldaSeDistinguenPorLaMascara) {
+    PreparaTablero(3, GetParam(), 300, 300);
+    const int16_t marco = 5, figura = static_cast<int16_t>(5 + 9);
+    ASSERT_EQ(Piezas[figura].XCorrecta, Piezas[marco].XCorrecta);
+    const auto negro = PuntoDeCelda(marco, COLOR_NEGRO);
+    const auto blanco = PuntoDeCelda(marco, COLOR_BLANCO);
+    ASSERT_TRUE(negro && blanco);
+    const int32_t x0 = Piezas[marco].XCorrecta, y0 = Piezas[marco].YCorrecta;
+    for (bool figuraArriba : {false, true}) {
+        PiezaPrioritaria(PosicionDe(figuraArriba ? marco : figura));
+        PiezaPrioritaria(PosicionDe(figuraArriba ? figura : marco));
+        const int16_t enNegro = PiezaTocada(x0 + negro->first, y0 + negro->second);
+        const int16_t enBlanco = PiezaTocada(x0 + blanco->first, y0 + blanco->second);
+        EXPECT_EQ(OrdenPiezas[enNegro], figura) << figuraArriba;
+        EXPECT_EQ(OrdenPiezas[enBlanco], marco) << figuraArriba;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Dobles, Parejas, ::testing::Values(2, 3, 4, 5));
+
+TEST_F(Tablero, ElCursorDiceSiLaPiezaDebajoEstaEnSuSitio) {
+    PreparaTablero(4, 0, 320, 240);
+    // Piece 16 has the top left cell, 11 the one at (80, 60), 6 the one at
+    // (160, 120), 4 the one at (0, 180).
+    ASSERT_EQ(Piezas[11].XCorrecta, 80);
+    ASSERT_EQ(Piezas[6].YCorrecta, 120);
+    PonPieza(16, 500, 400); // away from home
+    PonPieza(12, 90, 70);   // away from home, under piece 11
+    PonPieza(15, 170, 130); // away, on top of the pile and over piece 6
+    PiezaPrioritaria(PosicionDe(15));
+    RepintaTablero();
+    Superficie &t = teselari.Pic_Trabajo;
+    struct Caso {
+        const char *que;
+        int32_t x, y;
+        int16_t cursor, puntero;
+        const char *icono;
+    };
+    const Caso casos[] = {
+        {"placed piece", 10, 200, 1, PUNTERO_PROPIO, "MANOVERDE"},
+        {"misplaced piece", 510, 410, 2, PUNTERO_PROPIO, "MANOROJA"},
+        {"no piece", 700, 300, 0, PUNTERO_NORMAL, ""},
+        {"placed piece over a misplaced one", 100, 100, 1, PUNTERO_PROPIO, "MANOVERDE"},
+        {"misplaced piece over a placed one", 175, 135, 2, PUNTERO_PROPIO, "MANOROJA"},
+    };
+    for (const Caso &c : casos) {
+        CursorPanel = 1;
+        Pic_Trabajo_MouseMove(0, 0, c.x, c.y);
+        EXPECT_EQ(CursorTrabajo, c.cursor) << c.que;
+        EXPECT_EQ(t.MousePointer, c.puntero) << c.que;
+        if (c.puntero == PUNTERO_PROPIO) {
+            EXPECT_EQ(t.MouseIcon, c.icono) << c.que;
+        }
+        EXPECT_EQ(CursorPanel, 9) << c.que;
+    }
+    // The pointer is set only when the wanted cursor changes: after a pick
+    // (CursorTrabajo 0) the four arrows stay until a piece is under the mouse.
+    t.MousePointer = PUNTERO_CUATRO_FLECHAS;
+    CursorTrabajo = 0;
+    Pic_Trabajo_MouseMove(0, 0, 700, 300);
+    EXPECT_EQ(t.MousePointer, PUNTERO_CUATRO_FLECHAS);
+    Pic_Trabajo_MouseMove(0, 0, 100, 100);
+    EXPECT_EQ(t.MouseIcon, "MANOVERDE");
+}
+
+TEST_F(Tablero, SinCursorDePiezaMientrasOtraCosaOcupaElTablero) {
+    PreparaTablero(4, 0, 320, 240);
+    int16_t *banderas[] = {&ModoColocadas, &ModoOrdenar, &ModoResolver, &PiezaSoltandose,
+                           &PiezaLevantada};
+    for (int16_t *bandera : banderas) {
+        *bandera = VERDADERO;
+        CursorTrabajo = 0;
+        CursorPanel = 1;
+        teselari.Pic_Trabajo.MousePointer = PUNTERO_ESPERA;
+        if (bandera == &PiezaLevantada) {
+            LevantaPieza(10, 10);
+        }
+        Pic_Trabajo_MouseMove(0, 0, 100, 100);
+        EXPECT_EQ(CursorTrabajo, 0);
+        EXPECT_EQ(CursorPanel, 1);
+        EXPECT_EQ(teselari.Pic_Trabajo.MousePointer, PUNTERO_ESPERA);
+        *bandera = FALSO;
+    }
+}
+
+class Arrastre : public Tablero, public ::testing::WithParamInterface<int16_t> {};
+
+TEST_P(Arrastre, ElTableroEsLaImagenMasLaPiezaEnLaMano) {
+    PreparaTablero(5, GetParam(), 500, 400);
+    // A pile with overlaps: every piece a little off its place.
+    for (int32_t k = 1; k <= NroPiezas; ++k) {
+        PonPieza(static_cast<int16_t>(k), Piezas[k].XCorrecta + (k % 4) * 9,
+                 Piezas[k].YCorrecta + (k % 3) * 11);
+    }
+    RepintaTablero();
+    const Pieza &q = Piezas[OrdenPiezas[1]];
+    const int16_t posicion = PiezaTocada(q.X + AnchoPieza / 2, q.Y + AltoPieza / 2);
+    ASSERT_NE(posicion, 0);
+    const int32_t x0 = Piezas[OrdenPiezas[posicion]].X + AnchoPieza / 2;
+    const int32_t y0 = Piezas[OrdenPiezas[posicion]].Y + AltoPieza / 2;
+    Agarra(posicion, x0, y0);
+    const Punto camino[] = {{x0 + 3, y0 + 1},
+                            {x0 + 40, y0 + 25},
+                            {x0 + 200, y0 + 150},
+                            {x0 + 190, y0 + 160},
+                            {x0 + 600, y0 + 300}};
+    for (const Punto &p : camino) {
+        Pic_Trabajo_MouseMove(1, 0, p.first, p.second);
+        EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, ImagenConLaPiezaEnLaMano()))
+            << p.first << ", " << p.second;
+    }
+    EXPECT_EQ(Piezas[OrdenPiezas[1]].X,
+              Piezas[OrdenPiezas[1]].XCorrecta + (OrdenPiezas[1] % 4) * 9 + 600);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cortes, Arrastre, ::testing::Values(0, 1, 2, 3, 4, 5));
+
+TEST_F(Tablero, LaManoDesplazaLaVistaEnLosBordes) {
+    // A 800 x 600 screen and a work area of 1224 x 968: bars of 784 x 584
+    // visible pixels.
+    PreparaTablero(4, 0, 1024, 768, 800, 600);
+    FormTeselari &f = teselari;
+    ASSERT_EQ(f.Pic_Trabajo.Ancho(), 1224);
+    ASSERT_EQ(f.Pic_Trabajo.Alto(), 968);
+    ASSERT_EQ(f.BarraHor.Max(), 440);
+    ASSERT_EQ(f.BarraVer.Max(), 384);
+    f.BarraVer.LargeChange = 100;
+    f.BarraHor.LargeChange = 120;
+    struct Caso {
+        const char *que;
+        int32_t v0, h0;
+        float x, y;
+        int32_t v, h;
+    };
+    const Caso casos[] = {
+        {"up, on the first visible row", 150, 0, 400, 150, 50, 0},
+        {"up, one pixel above it", 150, 0, 400, 149, 150, 0},
+        {"up, one pixel below it", 150, 0, 400, 151, 150, 0},
+        {"up, a short last step", 30, 0, 400, 30, 0, 0},
+        {"up, row 0 of the work area", 0, 0, 400, 0, 0, 0},
+        {"down, past the last visible row", 0, 0, 400, 585, 100, 0},
+        {"down, on the last visible row", 0, 0, 400, 584, 0, 0},
+        {"down, a short last step", 350, 0, 400, 935, 384, 0},
+        {"down, last row of the work area", 0, 0, 400, 967, 100, 0},
+        {"down, outside the work area", 0, 0, 400, 968, 0, 0},
+        {"left, on the first visible column", 0, 200, 200, 300, 0, 80},
+        {"left, one pixel beyond it", 0, 200, 199, 300, 0, 200},
+        {"left, a short last step", 0, 50, 50, 300, 0, 0},
+        {"left, column 0", 0, 0, 0, 300, 0, 0},
+        {"right, past the last visible column", 0, 0, 785, 300, 0, 120},
+        {"right, on the last visible column", 0, 0, 784, 300, 0, 0},
+        {"right, a short last step", 0, 400, 1185, 300, 0, 440},
+        {"right, outside the work area", 0, 0, 1224, 300, 0, 0},
+        {"up before left", 150, 200, 200, 150, 50, 200},
+        {"down before right", 0, 0, 785, 585, 100, 0},
+        {"down before left", 0, 200, 200, 585, 100, 200},
+    };
+    PonPieza(1, 0, 0);
+    RepintaTablero();
+    Agarra(1, 40, 30);
+    for (const Caso &c : casos) {
+        f.BarraVer.PonValue(c.v0);
+        f.BarraHor.PonValue(c.h0);
+        Pic_Trabajo_MouseMove(1, 0, c.x, c.y);
+        EXPECT_EQ(f.BarraVer.Value(), c.v) << c.que;
+        EXPECT_EQ(f.BarraHor.Value(), c.h) << c.que;
+        EXPECT_EQ(f.Pic_Trabajo.Top, -c.v) << c.que;
+        EXPECT_EQ(f.Pic_Trabajo.Left, -c.h) << c.que;
+        // The piece follows the mouse wherever it goes.
+        EXPECT_EQ(Piezas[1].X, static_cast<int32_t>(c.x) - 40) << c.que;
+        EXPECT_EQ(Piezas[1].Y, static_cast<int32_t>(c.y) - 30) << c.que;
+    }
+}
+
+TEST_F(Tablero, SinDesplazarNiMoverMientrasLaPiezaSeSueltaOElJuegoMueve) {
+    PreparaTablero(4, 0, 1024, 768, 800, 600);
+    FormTeselari &f = teselari;
+    PonPieza(1, 0, 0);
+    RepintaTablero();
+    Agarra(1, 40, 30);
+    for (int16_t *bandera : {&ModoOrdenar, &ModoResolver, &PiezaSoltandose}) {
+        *bandera = VERDADERO;
+        Pic_Trabajo_MouseMove(1, 0, 785, 585);
+        EXPECT_EQ(f.BarraVer.Value(), 0);
+        EXPECT_EQ(f.BarraHor.Value(), 0);
+        EXPECT_EQ(Piezas[1].X, 0);
+        EXPECT_EQ(Piezas[1].Y, 0);
+        *bandera = FALSO;
+    }
+}

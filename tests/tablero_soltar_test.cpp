@@ -1,0 +1,271 @@
+// The drop: attraction to the piece's place, the view limits of a free piece
+// and the end of the game.
+#include "board/Arrastre.h"
+#include "board/Raton.h"
+#include "board/Render.h"
+#include "panels/Cronometro.h"
+#include "platform/raster/Raster.h"
+#include "tablero_comun.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+// Piece k, lying at (x, y), is gripped at its corner there and released at
+// once.
+void SueltaAlli(int16_t k, int32_t x, int32_t y) {
+    PonPieza(k, x, y);
+    RepintaTablero();
+    PiezaPrioritaria(PosicionDe(k));
+    LevantaPieza(x, y);
+    escritorio.sonidos.clear();
+    Pic_Trabajo_MouseUp(1, 0, static_cast<float>(x), static_cast<float>(y));
+}
+
+// Piece k is carried from far away by the mouse and let go at (x, y).
+void LlevaYSuelta(int16_t k, int32_t x, int32_t y) {
+    PonPieza(k, 610, 455);
+    RepintaTablero();
+    PiezaPrioritaria(PosicionDe(k));
+    LevantaPieza(620, 465);
+    Pic_Trabajo_MouseMove(1, 0, 615, 460);
+    Pic_Trabajo_MouseMove(1, 0, static_cast<float>(x + 10), static_cast<float>(y + 10));
+    escritorio.sonidos.clear();
+    Pic_Trabajo_MouseUp(1, 0, static_cast<float>(x + 10), static_cast<float>(y + 10));
+}
+
+// Whether the composite is the pile painted afresh from the positions.
+bool ImagenAlDia() {
+    const Superficie antes = teselari.Pic_Imagen;
+    RepintaTablero();
+    return MismosPixeles(antes, teselari.Pic_Imagen);
+}
+
+struct Alcance {
+    int16_t factor;
+    int32_t x, y; // the largest offset still attracted, -1 for none
+};
+
+// For a cell of 80 x 60.
+const Alcance ALCANCES[] = {{0, -1, -1},  {5, 3, 3},    {25, 19, 15},
+                            {50, 39, 29}, {75, 59, 45}, {100, 79, 59}};
+
+} // namespace
+
+class Atraccion : public Tablero, public ::testing::WithParamInterface<Alcance> {};
+
+TEST_P(Atraccion, LaPiezaVaASuSitioDentroDelAlcance) {
+    const Alcance a = GetParam();
+    PreparaTablero(4, 0, 320, 240);
+    FactorPegado = a.factor;
+    const int16_t k = 11;
+    ASSERT_EQ(Piezas[k].XCorrecta, 80);
+    ASSERT_EQ(Piezas[k].YCorrecta, 60);
+    // The nearest offsets out of reach (the exact place always counts).
+    const int32_t fx = std::max(a.x + 1, 1), fy = std::max(a.y + 1, 1);
+    struct Desvio {
+        int32_t dx, dy;
+        bool atraida;
+    };
+    const Desvio desvios[] = {
+        {0, 0, true},        {a.x, 0, a.x >= 0},   {-a.x, 0, a.x >= 0},   {0, a.y, a.y >= 0},
+        {0, -a.y, a.y >= 0}, {a.x, a.y, a.x >= 0}, {-a.x, a.y, a.x >= 0}, {fx, 0, false},
+        {-fx, 0, false},     {0, fy, false},       {0, -fy, false},       {fx, fy, false},
+    };
+    for (const Desvio &d : desvios) {
+        LlevaYSuelta(k, 80 + d.dx, 60 + d.dy);
+        const bool enCasa = PiezaEnSuSitio(k);
+        EXPECT_EQ(enCasa, d.atraida) << d.dx << ", " << d.dy;
+        if (!enCasa) {
+            EXPECT_EQ(Piezas[k].X, 80 + d.dx);
+            EXPECT_EQ(Piezas[k].Y, 60 + d.dy);
+        }
+        EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{static_cast<int16_t>(enCasa ? 6 : 10)});
+        EXPECT_EQ(OrdenPiezas[1], k);
+        EXPECT_EQ(PiezasColocadas, NroPiezas - (enCasa ? 0 : 1));
+        EXPECT_EQ(PiezaLevantada, FALSO);
+        EXPECT_EQ(PiezaSoltandose, FALSO);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Factores, Atraccion, ::testing::ValuesIn(ALCANCES),
+                         [](const ::testing::TestParamInfo<Alcance> &i) {
+                             return "f" + std::to_string(i.param.factor);
+                         });
+
+class Soltar : public Tablero, public ::testing::WithParamInterface<int16_t> {};
+
+TEST_P(Soltar, ElTableroQuedaComoLaPilaPintadaDeNuevo) {
+    PreparaTablero(5, GetParam(), 500, 400);
+    for (int32_t k = 1; k <= NroPiezas; k += 3) {
+        PonPieza(static_cast<int16_t>(k), Piezas[k].XCorrecta + 7, Piezas[k].YCorrecta + 9);
+    }
+    // Attracted: the screen is the composite everywhere.
+    LlevaYSuelta(1, Piezas[1].XCorrecta + 5, Piezas[1].YCorrecta - 4);
+    EXPECT_TRUE(PiezaEnSuSitio(1));
+    EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen));
+    EXPECT_TRUE(ImagenAlDia());
+    // Free, in the view: the same.
+    LlevaYSuelta(2, 650, 450);
+    EXPECT_FALSE(PiezaEnSuSitio(2));
+    EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen));
+    EXPECT_TRUE(ImagenAlDia());
+}
+
+INSTANTIATE_TEST_SUITE_P(Cortes, Soltar, ::testing::Values(0, 1, 2, 3, 4, 5));
+
+TEST_F(Tablero, LosLimitesDeLaVistaRetienenLaPiezaLibre) {
+    PreparaTablero(8, 0, 640, 480); // cells of 80 x 60, piece 64 at (0, 0)
+    FormTeselari &f = teselari;
+    f.Pic_BotonesSiempre.Move(900, 0, 62, 300);
+    f.BarraHor.Top = 700;
+    f.BarraVer.Left = 1000;
+    f.BarraHor.PonMax(300);
+    f.BarraVer.PonMax(300);
+    struct Caso {
+        const char *que;
+        int32_t hv, vv, x, y, xFinal, yFinal;
+    };
+    const Caso casos[] = {
+        {"beside the panel", 0, 0, 870, 200, 860, 200},
+        {"hanging below the panel", 0, 0, 870, 240, 870, 240},
+        {"a pixel less below the panel", 0, 0, 870, 239, 860, 239},
+        {"on the panel's limit", 0, 0, 860, 100, 860, 100},
+        {"above the view", 0, 0, 400, -31, 400, -30},
+        {"on the upper limit", 0, 0, 400, -30, 400, -30},
+        {"below the view", 0, 0, 400, 671, 400, 670},
+        {"on the lower limit", 0, 0, 400, 670, 400, 670},
+        {"left of the view", 0, 0, -41, 300, -40, 300},
+        {"on the left limit", 0, 0, -40, 300, -40, 300},
+        {"right of the view", 0, 0, 961, 500, 960, 500},
+        {"on the right limit", 0, 0, 960, 500, 960, 500},
+        {"far up and right: panel, then top", 0, 0, 2000, -100, 860, -30},
+        {"far down and right", 0, 0, 2000, 900, 960, 670},
+        {"far up and left", 0, 0, -100, -100, -40, -30},
+        {"scrolled, above", 100, 50, 70, 10, 70, 20},
+        {"scrolled, left", 100, 50, 50, 300, 60, 300},
+        {"scrolled, beside the panel", 100, 50, 975, 280, 960, 280},
+        {"scrolled, right", 100, 50, 1065, 500, 1060, 500},
+        {"scrolled, below", 100, 50, 400, 721, 400, 720},
+    };
+    for (const Caso &c : casos) {
+        f.BarraHor.PonValue(c.hv);
+        f.BarraVer.PonValue(c.vv);
+        SueltaAlli(64, c.x, c.y);
+        EXPECT_EQ(Piezas[64].X, c.xFinal) << c.que;
+        EXPECT_EQ(Piezas[64].Y, c.yFinal) << c.que;
+        EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{10}) << c.que;
+    }
+}
+
+TEST_F(Tablero, LaAtraccionNoMiraLaVista) {
+    PreparaTablero(8, 0, 640, 480);
+    FormTeselari &f = teselari;
+    f.BarraHor.PonMax(600);
+    f.BarraVer.PonMax(600);
+    f.BarraHor.PonValue(600);
+    f.BarraVer.PonValue(600);
+    SueltaAlli(64, 30, -20); // home (0, 0), far out of the view
+    EXPECT_TRUE(PiezaEnSuSitio(64));
+    EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{6});
+}
+
+TEST_F(Tablero, SoltarSinPiezaSoloBajaLasBanderas) {
+    PreparaTablero(4, 0, 320, 240);
+    const std::vector<Pieza> piezas = Piezas;
+    const Superficie imagen = teselari.Pic_Imagen;
+    CursorTrabajo = 0;
+    Pic_Trabajo_MouseUp(1, 0, 10, 10);
+    EXPECT_EQ(Piezas, piezas);
+    EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, imagen));
+    EXPECT_TRUE(escritorio.sonidos.empty());
+    EXPECT_EQ(PiezaLevantada, FALSO);
+    EXPECT_EQ(PiezaSoltandose, FALSO);
+    EXPECT_EQ(CursorTrabajo, 1); // the cursor is brought up to date at once
+}
+
+TEST_F(Tablero, UnaSueltaDuranteOtraNoHaceNada) {
+    // The release of a press refused during a drop leaves that drop alone.
+    PreparaTablero(4, 0, 320, 240);
+    LevantaPieza(10, 10);
+    PiezaSoltandose = VERDADERO;
+    CursorTrabajo = 0;
+    Pic_Trabajo_MouseUp(1, 0, 10, 10);
+    EXPECT_EQ(PiezaLevantada, VERDADERO);
+    EXPECT_EQ(PiezaSoltandose, VERDADERO);
+    EXPECT_EQ(CursorTrabajo, 0);
+    EXPECT_TRUE(escritorio.sonidos.empty());
+}
+
+TEST_F(Tablero, MientrasResuelveUnaSueltaNoDejaNada) {
+    PreparaTablero(4, 0, 320, 240);
+    PonPieza(1, 500, 400);
+    RepintaTablero();
+    LevantaPieza(510, 410);
+    const Superficie sinLaPieza = teselari.Pic_Imagen;
+    ModoResolver = VERDADERO;
+    Pic_Trabajo_MouseUp(1, 0, 600, 300);
+    EXPECT_EQ(Piezas[1].X, 500);
+    EXPECT_EQ(PiezaLevantada, FALSO);
+    EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, sinLaPieza));
+    EXPECT_TRUE(escritorio.sonidos.empty());
+}
+
+TEST_F(Tablero, DuranteElSonidoDeLaSueltaElRatonNoToca) {
+    PreparaTablero(4, 0, 320, 240);
+    escritorio.alDejarPasarEventos = [](int32_t) {
+        EXPECT_EQ(PiezaSoltandose, VERDADERO);
+        Pic_Trabajo_MouseMove(1, 0, 900, 100);
+        Pic_Trabajo_MouseUp(1, 0, 900, 100);
+    };
+    LlevaYSuelta(1, 650, 450);
+    EXPECT_EQ(Piezas[1].X, 650);
+    EXPECT_EQ(Piezas[1].Y, 450);
+    EXPECT_TRUE(ImagenAlDia());
+}
+
+class Final : public Tablero, public ::testing::WithParamInterface<int16_t> {};
+
+TEST_P(Final, LaUltimaPiezaTerminaLaPartida) {
+    PreparaTablero(3, GetParam(), 300, 300);
+    const int16_t k = 2;
+    ArrancaCronometro();
+    PartidaValida = VERDADERO;
+    // Away from home, the game is not finished.
+    LlevaYSuelta(k, 600, 400);
+    EXPECT_TRUE(escritorio.mensajes.empty());
+    EXPECT_EQ(PuzzleCompleto, FALSO);
+    EXPECT_EQ(RelojEnMarcha, VERDADERO);
+
+    bool vistoLimpio = false;
+    escritorio.alMostrarMensaje = [&vistoLimpio] {
+        // The message stands over the clean picture, with the clock stopped
+        // and the drop still under way.
+        EXPECT_EQ(PuzzleCompleto, VERDADERO);
+        EXPECT_EQ(RelojEnMarcha, FALSO);
+        EXPECT_EQ(PiezaSoltandose, VERDADERO);
+        vistoLimpio = true;
+        for (int32_t y = 0; y < AltoPuzzle; y += 3) {
+            for (int32_t x = 0; x < AnchoPuzzle; x += 3) {
+                vistoLimpio = vistoLimpio &&
+                              teselari.Pic_Trabajo.Point(x, y) == teselari.Pic_Origin.Point(x, y);
+            }
+        }
+    };
+    LlevaYSuelta(k, Piezas[k].XCorrecta + 2, Piezas[k].YCorrecta + 3);
+    ASSERT_EQ(escritorio.mensajes.size(), 1u);
+    const Escritorio::Mensaje &m = escritorio.mensajes[0];
+    EXPECT_EQ(m.titulo, "TESELARI");
+    EXPECT_EQ(m.texto, "Ha conseguido resolver el puzzle");
+    EXPECT_EQ(m.lineas, 1);
+    EXPECT_EQ(m.botones, 1);
+    EXPECT_TRUE(vistoLimpio);
+    EXPECT_EQ(PiezasColocadas, NroPiezas);
+    EXPECT_EQ(PuzzleCompleto, VERDADERO);
+    EXPECT_EQ(RelojEnMarcha, FALSO);
+    EXPECT_EQ(PiezaLevantada, FALSO);
+    EXPECT_EQ(PiezaSoltandose, FALSO);
+    EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{6});
+}
+
+INSTANTIATE_TEST_SUITE_P(Cortes, Final, ::testing::Values(0, 1, 3));
