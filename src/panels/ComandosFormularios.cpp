@@ -1,0 +1,38 @@
+// The commands that leave the board for a form: 1 help, 2 customisation,
+// 10 history book. The clock stops while the player is away from the board
+// and starts again afterwards, whatever state it had.
+//
+// The help window, the dialog AbrirFic and the book Historic are not part
+// of the game yet: until they come, these three buttons only go down and
+// up again, with the clock stopped and restarted, and nothing else happens.
+#include "core/PuzzGbl.h"
+#include "panels/Cronometro.h"
+#include "panels/Ordenes.h"
+
+using namespace PuzzGbl;
+
+void AbreAyuda() {
+    MarcaBoton(1, true);
+    ParaCronometro();
+    ArrancaCronometro();
+    MarcaBoton(1, false);
+}
+
+void PersonalizaAplicacion() {
+    PonEspera();
+    MarcaBoton(2, true);
+    ParaCronometro();
+    ArrancaCronometro();
+    MarcaBoton(2, false);
+    QuitaEspera();
+}
+
+void AbreHistorico() {
+    MarcaBoton(10, true);
+    PonEspera();
+    ParaCronometro();
+    ArrancaCronometro();
+    MarcaBoton(10, false);
+    // Historic puts the default pointer back when it closes.
+    QuitaEspera();
+}
