@@ -45,7 +45,7 @@ void RestauraPartida() {
     PartidaValida = FALSO;
     PuzzleCompleto = FALSO;
     Dificultad = 0.0f;
-    NombreJugador = std::string(9, ' ');
+    NombreJugador = std::string(9, '\0'); // untyped: nine NULs, as a fixed string starts
     ModeloVisible = false;
     SesionRestaurando = FALSO;
     PuzzleCambiado = FALSO;

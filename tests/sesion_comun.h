@@ -1,0 +1,165 @@
+// Shared set-up of the saved-game tests: a temporary program folder and data
+// folder, a picture loader of our own, and a message double.
+#pragma once
+
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/Sesion.h"
+#include "cutting/Corte.h"
+#include "motor_comun.h"
+#include "services/Plataforma.h"
+
+namespace sesion_prueba {
+
+struct MensajeVisto {
+    std::string titulo, texto;
+    int16_t lineas;
+};
+inline std::vector<MensajeVisto> mensajes;
+inline std::vector<int16_t> sonidos;
+
+inline bool MensajeDePrueba(const std::string &titulo, const std::string &texto) {
+    mensajes.push_back({titulo, texto, PuzzGbl::MensajeLineas});
+    return true;
+}
+inline void SonidoDePrueba(int16_t clip) {
+    sonidos.push_back(clip);
+}
+
+// The pictures of these tests are small text files "IMAGEN W H": the loader
+// paints the generated picture of that size. Anything else can't be read.
+inline bool CargadorDePrueba(const std::string &fichero, Superficie &destino) {
+    std::ifstream f(fichero);
+    std::string marca;
+    int32_t w = 0, h = 0;
+    if (!(f >> marca >> w >> h) || marca != "IMAGEN" || w <= 0 || h <= 0) {
+        return false;
+    }
+    PintaImagenGenerada(destino, w, h);
+    return true;
+}
+
+inline void EscribeFichero(const std::string &ruta, const std::string &contenido) {
+    std::ofstream f(ruta, std::ios::binary | std::ios::trunc);
+    f << contenido;
+}
+
+inline std::string LeeFichero(const std::string &ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(f), {});
+}
+
+inline void EscribeImagen(const std::string &ruta, int32_t w, int32_t h) {
+    EscribeFichero(ruta, "IMAGEN " + std::to_string(w) + " " + std::to_string(h) + "\n");
+}
+
+// Whether OrdenPiezas is a permutation of 1..NroPiezas.
+inline bool OrdenEsPermutacion() {
+    using namespace PuzzGbl;
+    if (NroPiezas < 1 || OrdenPiezas.size() != static_cast<size_t>(NroPiezas) + 1 ||
+        Piezas.size() != OrdenPiezas.size()) {
+        return false;
+    }
+    std::set<int16_t> vistos(OrdenPiezas.begin() + 1, OrdenPiezas.end());
+    return vistos.size() == static_cast<size_t>(NroPiezas) && *vistos.begin() == 1 &&
+           *vistos.rbegin() == NroPiezas;
+}
+
+// Restores an environment variable on leaving.
+class VariableGuardada {
+  public:
+    explicit VariableGuardada(const char *nombre) : nombre_(nombre) {
+        if (const char *v = std::getenv(nombre)) {
+            valor_ = v;
+        }
+    }
+    ~VariableGuardada() {
+        if (valor_) {
+            setenv(nombre_, valor_->c_str(), 1);
+        } else {
+            unsetenv(nombre_);
+        }
+    }
+
+  private:
+    const char *nombre_;
+    std::optional<std::string> valor_;
+};
+
+} // namespace sesion_prueba
+
+// A clean game state, the program's folder and the data folder under a new
+// temporary folder, our loader and message double; all undone afterwards.
+class Sesion : public Motor {
+  protected:
+    void SetUp() override {
+        using namespace sesion_prueba;
+        char plantilla[] = "/tmp/teselari-sesion-XXXXXX";
+        ASSERT_NE(mkdtemp(plantilla), nullptr);
+        raiz = plantilla;
+        programa = raiz + "/programa";
+        datos = raiz + "/datos";
+        std::filesystem::create_directories(programa);
+        antes = std::filesystem::current_path();
+        setenv("XDG_DATA_HOME", datos.c_str(), 1);
+        mensajes.clear();
+        sonidos.clear();
+        PonServiciosPlataforma({MensajeDePrueba, SonidoDePrueba});
+        PonCargadorImagen(CargadorDePrueba);
+        PonDirectorioPrograma(programa);
+        PreparaPantalla();
+        PuzzGbl::DirectorioTrabajo = programa;
+    }
+    void TearDown() override {
+        std::filesystem::current_path(antes);
+        PonServiciosPlataforma({});
+        PonCargadorImagen(nullptr);
+        PonDirectorioPrograma("");
+        std::filesystem::remove_all(raiz);
+        Motor::TearDown();
+    }
+
+    // A fresh state on a 1024 x 768 screen, no delays, the panel in place.
+    static void PreparaPantalla() {
+        using namespace PuzzGbl;
+        RestauraValoresIniciales();
+        AnchoPantalla = 1024;
+        AltoPantalla = 768;
+        VueltasPorSegundo = 0;
+        teselari.Pic_BotonesSiempre.Move(1024 - 16 - 62, 0, 62, 667);
+    }
+
+    // A dealt game of a picture file of w x h in the program's folder.
+    void JuegaPartida(int16_t lado, int16_t tipo, int32_t w, int32_t h,
+                      const std::string &nombre = "foto.img");
+
+    sesion_prueba::VariableGuardada xdg{"XDG_DATA_HOME"};
+    sesion_prueba::VariableGuardada home{"HOME"};
+    std::string raiz, programa, datos;
+    std::filesystem::path antes;
+};
+
+inline void Sesion::JuegaPartida(int16_t lado, int16_t tipo, int32_t w, int32_t h,
+                                 const std::string &nombre) {
+    using namespace PuzzGbl;
+    const std::string ruta = programa + "/" + nombre;
+    sesion_prueba::EscribeImagen(ruta, w, h);
+    PiezasPorLado = lado;
+    TipoPieza = tipo;
+    PiezasDobles = tipo >= 2 ? 1 : 0;
+    FicheroImagen = ruta;
+    NombreImagen = nombre;
+    Zoom = 100;
+    ImagenValida = VERDADERO;
+    ASSERT_TRUE(CargaImagen(ruta, teselari.Pic_Origin));
+    PreparaBitmap();
+}

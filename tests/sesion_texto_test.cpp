@@ -1,0 +1,131 @@
+// The text form of the initialisation file: code page and fields.
+#include <gtest/gtest.h>
+
+#include "core/TextoIni.h"
+
+namespace {
+
+struct Conversion {
+    const char *utf8;
+    const char *cp1252;
+};
+
+TEST(TextoIni, ConvierteAWindows1252YVuelve) {
+    const Conversion casos[] = {
+        {"abc", "abc"},          {"Ó", "\xD3"},
+        {"año", "a\xF1o"},       {"€ … ‰ Œ Ÿ ž", "\x80 \x85 \x89 \x8C \x9F \x9E"},
+        {"¡¿ÿ", "\xA1\xBF\xFF"},
+    };
+    for (const Conversion &c : casos) {
+        EXPECT_EQ(AWindows1252(c.utf8), c.cp1252) << c.utf8;
+        EXPECT_EQ(DeWindows1252(c.cp1252), c.utf8) << c.utf8;
+    }
+    // NULs travel as they are (the untyped player's name).
+    EXPECT_EQ(AWindows1252(std::string(9, '\0')), std::string(9, '\0'));
+}
+
+TEST(TextoIni, LoQueNoCabeEnLaPaginaEsInterrogacion) {
+    const Conversion casos[] = {
+        {"日本", "??"}, // outside the code page
+        {"\xC3", "?"},  // a sequence cut short
+        {"a\xFF"
+         "b",
+         "a?b"},                 // not UTF-8 at all
+        {"\xE2\x82", "??"},      // two bytes of a three-byte sequence
+        {"\xC0\xAF", "??"},      // an overlong form
+        {"\xED\xA0\x80", "???"}, // a surrogate
+        {"\xC2\x80", "?"},       // U+0080: the page puts the euro there
+    };
+    for (const Conversion &c : casos) {
+        EXPECT_EQ(AWindows1252(c.utf8), c.cp1252);
+    }
+}
+
+TEST(TextoIni, CadaByteVuelveIgual) {
+    std::string todos;
+    for (int b = 1; b < 256; ++b) {
+        todos += static_cast<char>(b);
+    }
+    EXPECT_EQ(AWindows1252(DeWindows1252(todos)), todos);
+}
+
+TEST(TextoIni, FormasEscritas) {
+    EXPECT_EQ(CampoNumero(0), "0");
+    EXPECT_EQ(CampoNumero(-1), "-1");
+    EXPECT_EQ(CampoNumero(2147483647), "2147483647");
+    EXPECT_EQ(CampoCadena("C:\\Mis imágenes"), "\"C:\\Mis im\xE1genes\"");
+    EXPECT_EQ(CampoCadena(" "), "\" \"");
+    EXPECT_EQ(CampoLogico(true), "#TRUE#");
+    EXPECT_EQ(CampoLogico(false), "#FALSE#");
+    EXPECT_EQ(LineaIni({"1", "\"a,b\"", "#TRUE#"}), "1,\"a,b\",#TRUE#\r\n");
+}
+
+TEST(TextoIni, DivideLineasConCrLfOLf) {
+    EXPECT_EQ(DivideLineas("a\r\nb\r\n"), (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(DivideLineas("a\nb"), (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(DivideLineas("a\r\n\r\nb\r\n"), (std::vector<std::string>{"a", "", "b"}));
+    EXPECT_TRUE(DivideLineas("").empty());
+}
+
+TEST(TextoIni, DivideCamposRespetaLasComillas) {
+    const auto c = DivideCampos("\"a,b\",  12 ,#TRUE#,\"\",\"x\"basura,-3");
+    ASSERT_EQ(c.size(), 6u);
+    EXPECT_EQ(c[0].texto, "a,b");
+    EXPECT_TRUE(c[0].entrecomillado);
+    EXPECT_EQ(c[1].texto, "12");
+    EXPECT_FALSE(c[1].entrecomillado);
+    EXPECT_EQ(c[2].texto, "#TRUE#");
+    EXPECT_EQ(c[3].texto, "");
+    EXPECT_EQ(c[4].texto, "x");
+    EXPECT_EQ(c[5].texto, "-3");
+    EXPECT_TRUE(DivideCampos("").empty());
+    const auto abierta = DivideCampos("\"sin cerrar,1");
+    ASSERT_EQ(abierta.size(), 1u);
+    EXPECT_FALSE(abierta[0].cerrado);
+    EXPECT_FALSE(LeeCadena(abierta[0]).has_value());
+    EXPECT_EQ(DivideCampos("1,,2").size(), 3u);
+    EXPECT_EQ(DivideCampos("1,").size(), 2u);
+}
+
+struct LecturaNumero {
+    const char *texto;
+    int64_t minimo, maximo;
+    std::optional<int64_t> esperado;
+};
+
+TEST(TextoIni, LeeNumerosDeSuAnchura) {
+    const LecturaNumero casos[] = {
+        {"0", -32768, 32767, 0},
+        {"-1", -32768, 32767, -1},
+        {"32767", -32768, 32767, 32767},
+        {"32768", -32768, 32767, std::nullopt}, // too large for 16 bits
+        {"-32769", -32768, 32767, std::nullopt},
+        {"2147483647", INT32_MIN, INT32_MAX, INT32_MAX},
+        {"2147483648", INT32_MIN, INT32_MAX, std::nullopt},
+        {"", -32768, 32767, std::nullopt},
+        {"12a", -32768, 32767, std::nullopt},
+        {"1.5", -32768, 32767, std::nullopt},
+        {"+5", -32768, 32767, std::nullopt},
+        {"#TRUE#", -32768, 32767, std::nullopt},
+        {"99999999999999999999999", INT32_MIN, INT32_MAX, std::nullopt},
+    };
+    for (const LecturaNumero &c : casos) {
+        EXPECT_EQ(LeeNumero(CampoIni{c.texto}, c.minimo, c.maximo), c.esperado) << c.texto;
+    }
+    // A quoted number is a string.
+    EXPECT_FALSE(LeeNumero(CampoIni{"5", true}, 0, 10).has_value());
+}
+
+TEST(TextoIni, LeeLogicosYCadenas) {
+    EXPECT_EQ(LeeLogico(CampoIni{"#TRUE#"}), true);
+    EXPECT_EQ(LeeLogico(CampoIni{"#FALSE#"}), false);
+    EXPECT_FALSE(LeeLogico(CampoIni{"-1"}).has_value());
+    EXPECT_FALSE(LeeLogico(CampoIni{"#TRUE#", true}).has_value());
+    EXPECT_EQ(LeeCadena(CampoIni{"Ca\xF1"
+                                 "a",
+                                 true}),
+              "Caña");
+    EXPECT_EQ(LeeCadena(CampoIni{"sin comillas"}), "sin comillas");
+}
+
+} // namespace
