@@ -16,4 +16,10 @@ const std::vector<Muestra> &ListaMuestras();
 
 QImage GeneraMuestra123();
 QImage GeneraMuestraFormas();
+QImage GeneraMuestraCampana();
+QImage GeneraMuestraCasa();
+QImage GeneraMuestraCatedral();
+QImage GeneraMuestraFuente();
 QImage GeneraMuestraPalmeras();
+QImage GeneraMuestraPuerta();
+QImage GeneraMuestraTranvia();

@@ -63,7 +63,8 @@ void PintaCielo(QImage &img, const QRect &zona, const QColor &arriba, const QCol
             const double c = std::clamp((n - (0.62 - nubes * 0.2)) * 4.0, 0.0, 1.0);
             const double sombra = RuidoFractal(x, y, 25, semilla + 3) * 40;
             // The clear sky is never one colour: a slow haze runs over it.
-            const double velo = (RuidoFractal(x, y, 45, semilla + 5) - 0.5) * 34;
+            const double velo = (RuidoFractal(x, y, 45, semilla + 5) - 0.5) * 34 +
+                                (RuidoFractal(x, y, 9, semilla + 9) - 0.5) * 22;
             r += velo;
             g += velo;
             b += velo * 0.6;
