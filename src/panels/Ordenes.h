@@ -13,10 +13,14 @@ void MarcaBoton(int16_t boton, bool pulsado);
 void PonEspera();
 void QuitaEspera();
 
+void AbreAyuda();             // 1
+void PersonalizaAplicacion(); // 2
 void MuestraOcultaModelo();   // 3
 void BarajaDeNuevo();         // 4
 void MuestraPiezasOcultas();  // 5
+void ConmutaColocadas();      // 6
+void ConmutaOrdenar();        // 7
 void MuestraTutor();          // 8
-void AbreAyuda();             // 1
-void PersonalizaAplicacion(); // 2
+void ConmutaResolver();       // 9
 void AbreHistorico();         // 10
+void PreguntaSalida();        // 11

@@ -1,0 +1,27 @@
+// Command 11: the question, then the game is kept and the program ends.
+#include "core/PuzzGbl.h"
+#include "core/Sesion.h"
+#include "panels/Cronometro.h"
+#include "panels/Ordenes.h"
+#include "services/Mensajes.h"
+#include "services/Plataforma.h"
+
+using namespace PuzzGbl;
+
+void PreguntaSalida() {
+    PonEspera();
+    MarcaBoton(11, true);
+    ParaCronometro();
+    QuitaEspera();
+    MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2);
+    if (RespuestaMensaje != VERDADERO) {
+        // The game goes on, the clock from where it stood.
+        ArrancaCronometro();
+        MarcaBoton(11, false);
+        return;
+    }
+    GuardaSesion();
+    if (Plataforma().Termina != nullptr) {
+        Plataforma().Termina();
+    }
+}

@@ -1,0 +1,319 @@
+// PulsaBoton: the modes each command ends, what a finished puzzle blocks,
+// the interruption of the long routines from inside their own yields, and
+// the exit with its question.
+#include <unistd.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "board/Render.h"
+#include "cutting/Corte.h"
+#include "paneles_comun.h"
+#include "panels/BotonesRaton.h"
+#include "panels/Comandos.h"
+#include "panels/Cronometro.h"
+#include "panels/Paneles.h"
+#include "services/Plataforma.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+struct Ganchos {
+    bool respuesta = false;
+    std::vector<int16_t> clips;
+    std::vector<std::string> titulos, textos;
+    int terminas = 0;
+    int eventos = 0;
+    std::function<void()> al_ceder; // runs inside the yields of the routines
+};
+Ganchos ganchos;
+
+bool MensajeDoble(const std::string &titulo, const std::string &texto) {
+    ganchos.titulos.push_back(titulo);
+    ganchos.textos.push_back(texto);
+    return ganchos.respuesta;
+}
+void SonidoDoble(int16_t clip) {
+    ganchos.clips.push_back(clip);
+}
+void EventosDoble() {
+    ++ganchos.eventos;
+    if (ganchos.al_ceder) {
+        ganchos.al_ceder();
+    }
+}
+void TerminaDoble() {
+    ++ganchos.terminas;
+}
+
+class Pulsa : public Motor {
+  protected:
+    void SetUp() override {
+        carpeta_previa_ = std::filesystem::current_path();
+        carpeta_ = std::filesystem::temp_directory_path() /
+                   ("teselari_paneles_" + std::to_string(::getpid()));
+        std::filesystem::remove_all(carpeta_);
+        std::filesystem::create_directories(carpeta_);
+        ganchos = Ganchos{};
+        PonServiciosPlataforma({MensajeDoble, SonidoDoble, EventosDoble, TerminaDoble});
+        PreparaJuego(4, 0, 400, 300);
+        PintaTiraPrueba(teselari.Pic_BmpBoton);
+        Sonido = 2;
+        DirectorioTrabajo = carpeta_.string() + "/";
+        PreparaBitmap();
+        DibujaBotonesSiempre(); // every button drawn up
+    }
+    void TearDown() override {
+        PonServiciosPlataforma({});
+        std::filesystem::current_path(carpeta_previa_);
+        std::filesystem::remove_all(carpeta_);
+        Motor::TearDown();
+    }
+    static void EnciendeModo(int16_t &modo, int16_t boton) {
+        modo = VERDADERO;
+        if (boton != 0) {
+            BotonPulsado[boton] = VERDADERO;
+            DibuBot(boton, teselari.Pic_BotonSiempre[boton]);
+        }
+    }
+    static bool BotonArriba(int16_t b) {
+        return BotonPulsado[b] == FALSO &&
+               teselari.Pic_BotonSiempre[b].Point(3, 3) == CuerpoPrueba(b);
+    }
+    static bool TodasEnSuSitio() {
+        for (int16_t k = 1; k <= NroPiezas; ++k) {
+            if (!PiezaEnSuSitio(k)) {
+                return false;
+            }
+        }
+        return true;
+    }
+    std::filesystem::path carpeta_, carpeta_previa_;
+};
+
+enum Modo { COLOCADAS, ORDENAR, RESOLVER };
+
+struct CasoModo {
+    int16_t boton;
+    Modo modo;
+};
+
+class TablaModos : public Pulsa, public ::testing::WithParamInterface<CasoModo> {};
+
+// Each command ends the modes it excludes; 6 toggles its own view, and 7
+// and 9 toggle theirs: started, their routine runs with the mode on and the
+// others off, and clears it at its end; pressed while on, it only stops.
+TEST_P(TablaModos, CadaComandoTerminaLosModosQueExcluye) {
+    const auto [b, m] = GetParam();
+    if (m == COLOCADAS) {
+        EnciendeModo(ModoColocadas, 0);
+    } else if (m == ORDENAR) {
+        EnciendeModo(ModoOrdenar, 7);
+    } else {
+        EnciendeModo(ModoResolver, 9);
+    }
+    struct Visto {
+        int16_t colocadas, ordenar, resolver;
+    };
+    std::vector<Visto> vistos;
+    ganchos.al_ceder = [&vistos] { vistos.push_back({ModoColocadas, ModoOrdenar, ModoResolver}); };
+    const std::vector<Pieza> antes = Piezas;
+
+    PulsaBoton(b);
+
+    const bool colocadas = b == 6 && m != COLOCADAS;
+    EXPECT_EQ(ModoColocadas, colocadas ? VERDADERO : FALSO);
+    EXPECT_EQ(ModoOrdenar, FALSO);
+    EXPECT_EQ(ModoResolver, FALSO);
+    EXPECT_TRUE(BotonArriba(7));
+    EXPECT_TRUE(BotonArriba(9));
+    EXPECT_TRUE(BotonArriba(b));
+    EXPECT_EQ(teselari.MousePointer, 0);
+
+    const bool arranca_ordenar = b == 7 && m != ORDENAR;
+    const bool arranca_resolver = b == 9 && m != RESOLVER;
+    if (arranca_ordenar || arranca_resolver) {
+        ASSERT_FALSE(vistos.empty());
+        for (const Visto &v : vistos) {
+            EXPECT_EQ(v.colocadas, FALSO);
+            EXPECT_EQ(v.ordenar, arranca_ordenar ? VERDADERO : FALSO);
+            EXPECT_EQ(v.resolver, arranca_resolver ? VERDADERO : FALSO);
+        }
+    }
+    if (arranca_resolver) {
+        EXPECT_TRUE(TodasEnSuSitio());
+    }
+    // The second press of 7 or 9 only stops: no piece moves.
+    if ((b == 7 && m == ORDENAR) || (b == 9 && m == RESOLVER)) {
+        EXPECT_TRUE(vistos.empty());
+        EXPECT_EQ(Piezas, antes);
+    }
+}
+
+std::vector<CasoModo> CasosModos() {
+    std::vector<CasoModo> r;
+    for (int16_t b = 1; b <= 10; ++b) {
+        for (Modo m : {COLOCADAS, ORDENAR, RESOLVER}) {
+            r.push_back({b, m});
+        }
+    }
+    return r;
+}
+
+std::string NombreModo(const ::testing::TestParamInfo<CasoModo> &info) {
+    static const char *const modos[] = {"Colocadas", "Ordenar", "Resolver"};
+    return "Boton" + std::to_string(info.param.boton) + "En" + modos[info.param.modo];
+}
+
+INSTANTIATE_TEST_SUITE_P(Comandos, TablaModos, ::testing::ValuesIn(CasosModos()), NombreModo);
+
+TEST_F(Pulsa, ElSeisDosVecesDevuelveLosColoresPropios) {
+    const Superficie antes = teselari.Pic_Imagen;
+    PulsaBoton(6);
+    EXPECT_EQ(ModoColocadas, VERDADERO);
+    EXPECT_FALSE(MismosPixeles(teselari.Pic_Imagen, antes));
+    EXPECT_TRUE(BotonArriba(6));
+    PulsaBoton(6);
+    EXPECT_EQ(ModoColocadas, FALSO);
+    EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, antes));
+}
+
+class Completo : public Pulsa, public ::testing::WithParamInterface<int> {};
+
+// A finished puzzle: 5 to 9 change nothing, not even the look of their
+// button; a running coloured view is still ended by any of them but 6.
+TEST_P(Completo, BloqueaDelCincoAlNueve) {
+    const int16_t b = static_cast<int16_t>(GetParam());
+    PuzzleCompleto = VERDADERO;
+    EnciendeModo(ModoColocadas, 0);
+    const std::vector<Pieza> piezas = Piezas;
+    const std::vector<int16_t> orden = OrdenPiezas;
+    const Superficie trabajo = teselari.Pic_Trabajo;
+    int dibujos = 0;
+    teselari.Pic_BotonSiempre[b].AlCambiar = [&dibujos](const Rectangulo &) { ++dibujos; };
+    PulsaBoton(b);
+    teselari.Pic_BotonSiempre[b].AlCambiar = nullptr;
+    EXPECT_EQ(dibujos, 0);
+    EXPECT_EQ(BotonPulsado[b], FALSO);
+    EXPECT_EQ(Piezas, piezas);
+    EXPECT_EQ(OrdenPiezas, orden);
+    EXPECT_EQ(ModoOrdenar, FALSO);
+    EXPECT_EQ(ModoResolver, FALSO);
+    EXPECT_EQ(ModoColocadas, b == 6 ? VERDADERO : FALSO);
+    EXPECT_EQ(ganchos.eventos, 0);
+    if (b == 8) {
+        EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, trabajo));
+    }
+    EXPECT_EQ(PuzzleCompleto, VERDADERO);
+}
+
+INSTANTIATE_TEST_SUITE_P(Comandos, Completo, ::testing::Range(5, 10));
+
+TEST_F(Pulsa, UnPuzzleCompletoNoBloqueaLosDemas) {
+    PuzzleCompleto = VERDADERO;
+    ModeloVisible = false;
+    PulsaBoton(3);
+    EXPECT_TRUE(ModeloVisible);
+    SegundosCronometro = 50;
+    PulsaBoton(4);
+    EXPECT_EQ(SegundosCronometro, 0);
+}
+
+TEST_F(Pulsa, OtrosNumerosSoloTerminanLosModos) {
+    for (int16_t b : {0, 12, -1}) {
+        EnciendeModo(ModoOrdenar, 7);
+        const std::vector<Pieza> piezas = Piezas;
+        PulsaBoton(b);
+        EXPECT_EQ(ModoOrdenar, FALSO);
+        EXPECT_TRUE(BotonArriba(7));
+        EXPECT_EQ(Piezas, piezas);
+    }
+}
+
+TEST_F(Pulsa, ElSietePulsadoDuranteLaOrdenacionLaPara) {
+    int dentro = 0;
+    ganchos.al_ceder = [&dentro] {
+        if (++dentro == 1) {
+            PulsaBoton(7);
+        }
+    };
+    PulsaBoton(7);
+    // The routine stopped at its first yield after the piece in hand.
+    EXPECT_EQ(dentro, 1);
+    EXPECT_EQ(ModoOrdenar, FALSO);
+    EXPECT_TRUE(BotonArriba(7));
+}
+
+TEST_F(Pulsa, ElNueveDuranteLaOrdenacionTerminaElPuzzle) {
+    int dentro = 0;
+    ganchos.al_ceder = [&dentro] {
+        if (++dentro == 1) {
+            PulsaBoton(9);
+        }
+    };
+    PulsaBoton(7);
+    EXPECT_GT(dentro, 1);
+    EXPECT_EQ(ModoOrdenar, FALSO);
+    EXPECT_EQ(ModoResolver, FALSO);
+    EXPECT_TRUE(BotonArriba(7));
+    EXPECT_TRUE(BotonArriba(9));
+    EXPECT_TRUE(TodasEnSuSitio());
+    EXPECT_EQ(PartidaValida, FALSO);
+}
+
+// A press on a button of either panel: the pop-up goes, the click is heard,
+// the command runs; the board under the pop-up is repainted.
+TEST_F(Pulsa, UnaPulsacionEnLosPanelesCierraElDerechoYSuena) {
+    for (bool desde_derecho : {false, true}) {
+        Sonido = 1;
+        ganchos.clips.clear();
+        BotonEnDerecho.fill(true);
+        DibujaBotonesDerecho(10, 10);
+        teselari.Pic_Trabajo.CajaLlena(0, 0, 30, 30, COLOR_NEGRO);
+        const bool visible = ModeloVisible;
+        if (desde_derecho) {
+            Pic_BotonDerecho_MouseDown(3, 1, 0, 20, 20);
+        } else {
+            Pic_BotonSiempre_MouseDown(3, 2, 0, 20, 20);
+        }
+        EXPECT_FALSE(teselari.Pic_BotonesDerecho.Visible);
+        EXPECT_EQ(ganchos.clips, std::vector<int16_t>{1});
+        EXPECT_NE(ModeloVisible, visible);
+        EXPECT_EQ(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen), desde_derecho);
+    }
+}
+
+TEST_F(Pulsa, SalirConRechazarSigueJugando) {
+    const std::filesystem::path ini = carpeta_ / "TESEL32.INI";
+    for (bool en_marcha : {true, false}) {
+        en_marcha ? ArrancaCronometro() : ParaCronometro();
+        SegundosCronometro = 321;
+        ganchos.respuesta = false;
+        PulsaBoton(11);
+        ASSERT_FALSE(ganchos.titulos.empty());
+        EXPECT_EQ(ganchos.titulos.back(), "SALIR DE TESELARI");
+        EXPECT_EQ(ganchos.textos.back(), "¿Desea abandonar el programa?");
+        EXPECT_EQ(MensajeLineas, 1);
+        EXPECT_EQ(MensajeBotones, 2);
+        // The clock goes on from where it stood, whatever it did before.
+        EXPECT_EQ(RelojEnMarcha, VERDADERO);
+        EXPECT_EQ(SegundosCronometro, 321);
+        EXPECT_TRUE(BotonArriba(11));
+        EXPECT_EQ(ganchos.terminas, 0);
+        EXPECT_FALSE(std::filesystem::exists(ini));
+    }
+}
+
+TEST_F(Pulsa, SalirConAceptarGuardaYTermina) {
+    ArrancaCronometro();
+    ganchos.respuesta = true;
+    PulsaBoton(11);
+    EXPECT_EQ(ganchos.titulos.size(), 1u);
+    EXPECT_TRUE(std::filesystem::exists(carpeta_ / "TESEL32.INI"));
+    EXPECT_EQ(ganchos.terminas, 1);
+    EXPECT_EQ(RelojEnMarcha, FALSO);
+}
+
+} // namespace
