@@ -120,6 +120,17 @@ TEST_F(Paneles, ElPanelNoTapaElCronometro) {
     }
 }
 
+TEST_F(Paneles, ElPanelEscribeLaCuentaAlPie) {
+    RotuladorRegistro r;
+    PonRotulador(&r);
+    NroPiezas = 64;
+    DibujaBotonesSiempre();
+    PonRotulador(nullptr);
+    ASSERT_EQ(r.textos.size(), 1u);
+    EXPECT_EQ(r.textos[0].texto, "0 / 64");
+    EXPECT_EQ(r.textos[0].color, 0xFF0000u);
+}
+
 TEST_F(Paneles, UnBotonEnMarchaVuelvePulsadoAlRehacerElPanel) {
     BotonPulsado[7] = VERDADERO;
     DibujaBotonesSiempre();
