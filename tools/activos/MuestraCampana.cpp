@@ -54,6 +54,7 @@ void PintaTejados(QPainter &p, double y, uint32_t semilla) {
 QImage GeneraMuestraCampana() {
     const int w = 800, h = 600;
     QImage img(w, h, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     PintaCielo(img, QRect(0, 0, w, h), QColor(30, 90, 200), QColor(150, 200, 245), 0.85, 61);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);

@@ -5,12 +5,14 @@
 #include <cmath>
 
 #include "Azar.h"
+#include "Letras.h"
 #include "Muestras.h"
 #include "Texturas.h"
 
 QImage GeneraMuestraCasa() {
     const int w = 800, h = 600;
     QImage img(w, h, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     PintaCielo(img, QRect(0, 0, w, 330), QColor(50, 120, 220), QColor(170, 215, 250), 0.8, 41);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);
@@ -114,8 +116,7 @@ QImage GeneraMuestraCasa() {
     p.drawRect(QRectF(452, 356, 6, 10));
     p.setBrush(QColor(30, 80, 170));
     p.drawRect(QRectF(385, 320, 30, 18));
-    p.setPen(Qt::white);
-    p.drawText(QRectF(385, 320, 30, 18), Qt::AlignCenter, "7");
+    PintaTextoCentrado(p, QRectF(385, 320, 30, 18), "7", 14, Letra::SansNegrita, Qt::white);
     // A climbing rose on the left wall.
     PintaFollaje(p, {200, 400}, 30, 90, QColor(50, 120, 50), 500, 53);
     p.setPen(Qt::NoPen);

@@ -81,6 +81,7 @@ void PintaPortada(QPainter &p, const QRectF &r, uint32_t semilla) {
 QImage GeneraMuestraCatedral() {
     const int w = 800, h = 600;
     QImage img(w, h, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     PintaCielo(img, QRect(0, 0, w, h), QColor(70, 120, 200), QColor(240, 200, 170), 0.9, 161);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);

@@ -73,6 +73,7 @@ void PintaChorros(QPainter &p, QPointF desde, double ancho, double caida, uint32
 QImage GeneraMuestraFuente() {
     const int w = 800, h = 600;
     QImage img(w, h, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     PintaCielo(img, QRect(0, 0, w, 120), QColor(60, 130, 220), QColor(170, 210, 245), 1.0, 101);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);

@@ -74,6 +74,7 @@ void PintaPalmera(QPainter &p, QPointF base, QPointF copa, double grosor, uint32
 QImage GeneraMuestraPalmeras() {
     const int w = 800, h = 600;
     QImage img(w, h, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     PintaCielo(img, QRect(0, 0, w, 300), QColor(40, 110, 210), QColor(255, 200, 150), 0.9, 31);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);

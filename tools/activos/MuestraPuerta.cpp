@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Azar.h"
+#include "Letras.h"
 #include "Muestras.h"
 #include "Texturas.h"
 
@@ -34,6 +35,7 @@ QImage TexturaMadera(int ancho, int alto, uint32_t semilla) {
 QImage GeneraMuestraPuerta() {
     const int w = 800, h = 600;
     QImage img(w, h, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);
     Azar azar(81);
@@ -180,11 +182,8 @@ QImage GeneraMuestraPuerta() {
     p.setPen(QPen(QColor(20, 60, 150), 3));
     p.setBrush(QColor(245, 245, 250));
     p.drawRoundedRect(QRectF(620, 240, 70, 56), 6, 6);
-    QFont letra("DejaVu Serif");
-    letra.setPixelSize(36);
-    letra.setBold(true);
-    p.setFont(letra);
-    p.drawText(QRectF(620, 240, 70, 56), Qt::AlignCenter, "12");
+    PintaTextoCentrado(p, QRectF(620, 240, 70, 56), "12", 36, Letra::SerifNegrita,
+                       QColor(20, 60, 150));
     // Ivy over the upper left of the wall.
     for (int k = 0; k < 500; ++k) {
         const double t = azar.Real();

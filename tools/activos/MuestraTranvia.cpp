@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Azar.h"
+#include "Letras.h"
 #include "Muestras.h"
 #include "Texturas.h"
 
@@ -44,14 +45,10 @@ void PintaFachada(QPainter &p, const QRectF &r, uint32_t semilla) {
         p.drawPolygon(franja);
     }
     p.fillRect(QRectF(r.center().x() - 40, 292, 80, 18), QColor(30, 30, 30));
-    p.setPen(QColor(250, 220, 120));
-    QFont letra("DejaVu Sans");
-    letra.setPixelSize(12);
-    letra.setBold(true);
-    p.setFont(letra);
     const char *nombres[] = {"CAFÉ", "LIBROS", "PAN", "FLORES", "BAZAR", "MODA", "FRUTAS"};
-    p.drawText(QRectF(r.center().x() - 40, 292, 80, 18), Qt::AlignCenter,
-               QString::fromUtf8(nombres[semilla % 7]));
+    PintaTextoCentrado(p, QRectF(r.center().x() - 40, 292, 80, 18),
+                       QString::fromUtf8(nombres[semilla % 7]), 12, Letra::SansNegrita,
+                       QColor(250, 220, 120));
 }
 
 } // namespace
@@ -59,6 +56,7 @@ void PintaFachada(QPainter &p, const QRectF &r, uint32_t semilla) {
 QImage GeneraMuestraTranvia() {
     const int w = 800, h = 600;
     QImage img(w, h, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     PintaCielo(img, QRect(0, 0, w, 120), QColor(70, 140, 220), QColor(190, 220, 245), 1.0, 201);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);
@@ -162,12 +160,8 @@ QImage GeneraMuestraTranvia() {
     p.drawEllipse(QPointF(658, 470), 10, 10);
     p.setBrush(QColor(230, 40, 30));
     p.drawEllipse(QPointF(122, 470), 8, 8);
-    QFont letra("DejaVu Sans");
-    letra.setPixelSize(22);
-    letra.setBold(true);
-    p.setFont(letra);
-    p.setPen(QColor(150, 20, 20));
-    p.drawText(QRectF(300, 440, 180, 40), Qt::AlignCenter, "28  PLAZA");
+    PintaTextoCentrado(p, QRectF(300, 440, 180, 40), "28  PLAZA", 22, Letra::SansNegrita,
+                       QColor(150, 20, 20));
     // Bogies and wheels on the rail.
     for (const double rx : {200.0, 290.0, 490.0, 580.0}) {
         QRadialGradient rueda(rx - 4, 510, 24);

@@ -1,11 +1,11 @@
 // The two pictures of shapes: big numbers 1 2 3 among shapes, and a
 // picture of geometric figures.
-#include <QFont>
 #include <QLinearGradient>
 #include <QRadialGradient>
 #include <cmath>
 
 #include "Azar.h"
+#include "Letras.h"
 #include "Muestras.h"
 #include "Texturas.h"
 
@@ -97,18 +97,14 @@ void PintaFigura(QPainter &p, const QPainterPath &f, const QColor &c, double r) 
 }
 
 QPainterPath TextoGrande(const QString &t, const QPointF &base, int pixeles) {
-    QFont letra("DejaVu Sans");
-    letra.setBold(true);
-    letra.setPixelSize(pixeles);
-    QPainterPath c;
-    c.addText(base, letra, t);
-    return c;
+    return TextoEnCamino(t, base, pixeles, Letra::SansNegrita);
 }
 
 } // namespace
 
 QImage GeneraMuestra123() {
     QImage img(640, 480, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);
     // A bright background in bands, covered with confetti.
@@ -206,6 +202,7 @@ QImage GeneraMuestra123() {
 
 QImage GeneraMuestraFormas() {
     QImage img(640, 480, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128)); // no pixel is left to chance
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);
     // A mosaic of small triangles in soft colours.

@@ -1,0 +1,252 @@
+// The generator's parts: its randomness and noise, the composition of the
+// button images, the synthesis of the clips, and a whole run that must give
+// back the assets committed.
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <cmath>
+#include <sstream>
+#include <vector>
+
+#include "Azar.h"
+#include "Escritura.h"
+#include "Iconos.h"
+#include "Muestras.h"
+#include "Sonidos.h"
+#include "Texturas.h"
+
+namespace {
+
+const QString Carpeta = QStringLiteral(TESELARI_CARPETA_ACTIVOS);
+
+QByteArray LeeBytes(const QString &ruta) {
+    QFile f(ruta);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+} // namespace
+
+// --- randomness and noise ---
+
+TEST(Azar, LaMismaSemillaDaLaMismaSerieYOtraNo) {
+    Azar a(5), b(5), c(6);
+    int iguales = 0;
+    for (int k = 0; k < 100; ++k) {
+        const uint64_t x = a.Siguiente();
+        EXPECT_EQ(x, b.Siguiente());
+        iguales += x == c.Siguiente() ? 1 : 0;
+    }
+    EXPECT_EQ(iguales, 0);
+}
+
+TEST(Azar, RangosCerradosYSemiabiertos) {
+    Azar a(11);
+    bool bajo = false, alto = false;
+    double suma = 0;
+    for (int k = 0; k < 20000; ++k) {
+        const double r = a.Real();
+        ASSERT_GE(r, 0.0);
+        ASSERT_LT(r, 1.0);
+        suma += r;
+        const int e = a.Entero(3, 7);
+        ASSERT_GE(e, 3);
+        ASSERT_LE(e, 7);
+        bajo = bajo || e == 3;
+        alto = alto || e == 7;
+        const double en = a.Entre(-2, 2);
+        ASSERT_GE(en, -2.0);
+        ASSERT_LT(en, 2.0);
+    }
+    EXPECT_TRUE(bajo && alto);
+    EXPECT_NEAR(suma / 20000, 0.5, 0.02);
+}
+
+TEST(Ruido, EnRangoContinuoYDeterminista) {
+    double minimo = 1, maximo = 0, salto = 0;
+    for (int y = 0; y < 200; ++y) {
+        for (int x = 0; x < 200; ++x) {
+            const double v = RuidoFractal(x, y, 40, 3);
+            ASSERT_GE(v, 0.0);
+            ASSERT_LT(v, 1.0);
+            ASSERT_EQ(v, RuidoFractal(x, y, 40, 3));
+            minimo = std::min(minimo, v);
+            maximo = std::max(maximo, v);
+            salto = std::max(salto, std::abs(RuidoSuave(x / 40.0, y / 40.0, 3) -
+                                             RuidoSuave((x + 1) / 40.0, y / 40.0, 3)));
+        }
+    }
+    EXPECT_GT(maximo - minimo, 0.3) << "it varies";
+    EXPECT_LT(salto, 0.08) << "one octave is smooth from pixel to pixel";
+    EXPECT_NE(RuidoFractal(10, 10, 40, 3), RuidoFractal(10, 10, 40, 4));
+}
+
+TEST(Texturas, TexturaRuidoRodeaSuColorSinSerLisa) {
+    const QColor base(120, 80, 200);
+    const QImage t = TexturaRuido(64, 64, base, 30, 8, 9);
+    ASSERT_EQ(t.size(), QSize(64, 64));
+    double r = 0, g = 0, b = 0;
+    int distintos = 0;
+    for (int y = 0; y < 64; ++y) {
+        for (int x = 0; x < 64; ++x) {
+            const QRgb c = t.pixel(x, y);
+            r += qRed(c);
+            g += qGreen(c);
+            b += qBlue(c);
+            distintos += c != t.pixel(0, 0) ? 1 : 0;
+        }
+    }
+    EXPECT_NEAR(r / 4096, base.red(), 10);
+    EXPECT_NEAR(g / 4096, base.green(), 10);
+    EXPECT_NEAR(b / 4096, base.blue(), 10);
+    EXPECT_GT(distintos, 3000);
+    EXPECT_EQ(t, TexturaRuido(64, 64, base, 30, 8, 9));
+}
+
+// --- composing a button image ---
+
+namespace {
+
+QImage Cuadrado(int x0, int y0, int lado, QRgb color) {
+    QImage c(LadoIcono, LadoIcono, QImage::Format_ARGB32);
+    c.fill(Qt::transparent);
+    for (int y = y0; y < y0 + lado; ++y) {
+        for (int x = x0; x < x0 + lado; ++x) {
+            c.setPixel(x, y, color);
+        }
+    }
+    return c;
+}
+
+} // namespace
+
+TEST(ComponeIcono, LaCapaDeArribaEchaSombraSobreLaDeAbajo) {
+    const QImage abajo = Cuadrado(2, 2, 40, 0xFFFFFF00);
+    const QImage arriba = Cuadrado(10, 10, 10, 0xFFFF0000);
+    const QImage img = ComponeIcono({abajo, arriba}, {});
+    EXPECT_EQ(img.pixel(15, 15), 0xFFFF0000);
+    EXPECT_EQ(img.pixel(22, 22), ColorSombra) << "on the yellow layer";
+    EXPECT_EQ(img.pixel(30, 30), 0xFFFFFF00);
+    EXPECT_EQ(img.pixel(44, 44), ColorSombra) << "the lower layer's own shadow";
+    EXPECT_EQ(img.pixel(1, 1), ColorPanel);
+}
+
+TEST(ComponeIcono, NadaMasTomaElColorExactoDeLaSombra) {
+    // A layer drawn in the shadow's very colour, and a faint edge over a
+    // shadow: neither may pass for shadow nor stain it.
+    QImage capa = Cuadrado(5, 5, 10, ColorSombra);
+    capa.setPixel(16, 16, qRgba(255, 255, 255, 60));
+    const QImage img = ComponeIcono({capa}, {});
+    EXPECT_NE(img.pixel(8, 8), ColorSombra);
+    EXPECT_EQ(img.pixel(16, 16), ColorSombra);
+    EXPECT_EQ(img.pixel(17, 17), ColorSombra);
+}
+
+// --- the clips ---
+
+TEST(Sonidos, CadaClipTieneSuLargoYCallaEnLosExtremos) {
+    for (int clip = 1; clip <= NumeroClips; ++clip) {
+        SCOPED_TRACE(clip);
+        const std::vector<double> s = SintetizaClip(clip);
+        ASSERT_EQ(static_cast<int>(s.size()), MedidaDeClip(clip).Bytes);
+        double pico = 0;
+        for (double v : s) {
+            pico = std::max(pico, std::abs(v));
+        }
+        EXPECT_GT(pico, 0.3);
+        EXPECT_LE(pico, 0.75 + 1e-9) << "headroom, never clipped";
+        EXPECT_LT(std::abs(s.front()), 0.02);
+        EXPECT_LT(std::abs(s.back()), 0.02);
+    }
+    EXPECT_EQ(MedidaDeClip(9).Frecuencia, 8000);
+    EXPECT_EQ(MedidaDeClip(0).Bytes, 0);
+    EXPECT_EQ(MedidaDeClip(13).Bytes, 0);
+}
+
+TEST(Sonidos, ElRechazoEsGraveYElGolpeEsBreve) {
+    // The refusal: a low tone, by its zero crossings.
+    const std::vector<double> r = SintetizaClip(9);
+    int cruces = 0;
+    for (size_t i = 1; i < r.size(); ++i) {
+        cruces += (r[i - 1] < 0) != (r[i] < 0) ? 1 : 0;
+    }
+    const double hz = cruces / 2.0 / (r.size() / 8000.0);
+    EXPECT_GT(hz, 80);
+    EXPECT_LT(hz, 400);
+    // The piece placed: its energy lies at the start.
+    const std::vector<double> g = SintetizaClip(6);
+    double primera = 0, total = 0;
+    for (size_t i = 0; i < g.size(); ++i) {
+        total += g[i] * g[i];
+        primera += i < g.size() / 3 ? g[i] * g[i] : 0;
+    }
+    EXPECT_GT(primera / total, 0.85);
+}
+
+TEST(Sonidos, UnClipImparLlevaRellenoFueraDeLosDatos) {
+    const QByteArray w = GeneraWav(3); // 2541 bytes of data
+    EXPECT_EQ(w.size(), 44 + 2541 + 1);
+    const QByteArray par = GeneraWav(1); // 2280
+    EXPECT_EQ(par.size(), 44 + 2280);
+    EXPECT_EQ(GeneraWav(10), GeneraWav(12));
+}
+
+// --- a whole run ---
+
+TEST(Escritura, UnaPasadaDevuelveLosActivosGuardados) {
+    QTemporaryDir tmp;
+    ASSERT_TRUE(tmp.isValid());
+    std::ostringstream informe;
+    ASSERT_TRUE(EscribeActivos(tmp.path(), false, informe));
+    EXPECT_EQ(informe.str().find("FAILED"), std::string::npos);
+    for (const char *png :
+         {"botones.png", "cronometro.png", "cursores/manoblanca.png", "cursores/manoindice.png",
+          "cursores/manoroja.png", "cursores/manoverde.png"}) {
+        SCOPED_TRACE(png);
+        const QImage nueva(tmp.path() + "/" + png);
+        const QImage guardada(Carpeta + "/" + png);
+        ASSERT_FALSE(nueva.isNull());
+        EXPECT_EQ(nueva.convertToFormat(QImage::Format_ARGB32),
+                  guardada.convertToFormat(QImage::Format_ARGB32));
+    }
+    for (int clip = 1; clip <= NumeroClips; ++clip) {
+        const QString f = QString("/sonidos/%1.wav").arg(clip);
+        EXPECT_EQ(LeeBytes(tmp.path() + f), LeeBytes(Carpeta + f)) << clip;
+    }
+    EXPECT_FALSE(QFile::exists(tmp.path() + "/muestras/CASA.JPG"));
+}
+
+// Text is drawn from the font files, but an application without a display
+// keeps Qt's font machinery quiet.
+void AseguraAplicacion() {
+    static int argc = 1;
+    static char nombre[] = "teselari_activos_tests";
+    static char *argv[] = {nombre, nullptr};
+    if (QGuiApplication::instance() == nullptr) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static QGuiApplication app(argc, argv);
+    }
+}
+
+// Drawn after the others, in a process that drew other things first: the
+// same pixels as the files committed (no state carried between pictures).
+TEST(Escritura, CadaMuestraSaleIgualQueLaGuardada) {
+    AseguraAplicacion();
+    for (const Muestra &m : ListaMuestras()) {
+        SCOPED_TRACE(m.Nombre.toStdString());
+        const QImage img = m.Genera().convertToFormat(QImage::Format_RGB888);
+        const bool bmp = m.Nombre.endsWith(".BMP");
+        QByteArray datos;
+        QBuffer b(&datos);
+        ASSERT_TRUE(b.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(img.save(&b, bmp ? "BMP" : "JPG", bmp ? -1 : 90));
+        const QImage guardada(Carpeta + "/muestras/" + m.Nombre);
+        EXPECT_EQ(QImage::fromData(datos).convertToFormat(QImage::Format_RGB32),
+                  guardada.convertToFormat(QImage::Format_RGB32));
+    }
+}
