@@ -15,8 +15,11 @@
 #include <vector>
 
 #include "Azar.h"
+#include "Cronometro.h"
+#include "Cursores.h"
 #include "Escritura.h"
 #include "Iconos.h"
+#include "Letras.h"
 #include "Muestras.h"
 #include "Sonidos.h"
 #include "Texturas.h"
@@ -28,6 +31,18 @@ const QString Carpeta = QStringLiteral(TESELARI_CARPETA_ACTIVOS);
 QByteArray LeeBytes(const QString &ruta) {
     QFile f(ruta);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+// Text is drawn from the font files, but an application without a display
+// keeps Qt's font machinery quiet.
+void AseguraAplicacion() {
+    static int argc = 1;
+    static char nombre[] = "teselari_activos_tests";
+    static char *argv[] = {nombre, nullptr};
+    if (QGuiApplication::instance() == nullptr) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static QGuiApplication app(argc, argv);
+    }
 }
 
 } // namespace
@@ -221,18 +236,6 @@ TEST(Escritura, UnaPasadaDevuelveLosActivosGuardados) {
     EXPECT_FALSE(QFile::exists(tmp.path() + "/muestras/CASA.JPG"));
 }
 
-// Text is drawn from the font files, but an application without a display
-// keeps Qt's font machinery quiet.
-void AseguraAplicacion() {
-    static int argc = 1;
-    static char nombre[] = "teselari_activos_tests";
-    static char *argv[] = {nombre, nullptr};
-    if (QGuiApplication::instance() == nullptr) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static QGuiApplication app(argc, argv);
-    }
-}
-
 // Drawn after the others, in a process that drew other things first: the
 // same pixels as the files committed (no state carried between pictures).
 TEST(Escritura, CadaMuestraSaleIgualQueLaGuardada) {
@@ -249,4 +252,102 @@ TEST(Escritura, CadaMuestraSaleIgualQueLaGuardada) {
         EXPECT_EQ(QImage::fromData(datos).convertToFormat(QImage::Format_RGB32),
                   guardada.convertToFormat(QImage::Format_RGB32));
     }
+}
+
+// --- text, pointers, chronometer and the two dialog images ---
+
+TEST(Letras, ElTextoTieneFormaYCreceConSusLetras) {
+    AseguraAplicacion();
+    const QPainterPath uno = TextoEnCamino("1", {0, 100}, 100, Letra::SansNegrita);
+    const QPainterPath once = TextoEnCamino("11", {0, 100}, 100, Letra::SansNegrita);
+    ASSERT_FALSE(uno.isEmpty());
+    EXPECT_GT(once.boundingRect().width(), uno.boundingRect().width() * 1.8);
+    EXPECT_LE(uno.boundingRect().bottom(), 101.0) << "it stands on its baseline";
+    EXPECT_GT(uno.boundingRect().height(), 60.0);
+    EXPECT_EQ(TextoEnCamino("", {0, 0}, 20, Letra::Sans).elementCount(), 0);
+    // Centred: the ink lies inside the box, on both sides of its middle.
+    QImage img(80, 40, QImage::Format_RGB32);
+    img.fill(Qt::white);
+    QPainter p(&img);
+    PintaTextoCentrado(p, QRectF(20, 10, 40, 20), "12", 16, Letra::SerifNegrita, Qt::black);
+    p.end();
+    int izquierda = 0, derecha = 0, fuera = 0;
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < 80; ++x) {
+            if (qRed(img.pixel(x, y)) < 128) {
+                const bool dentro = x >= 20 && x < 60 && y >= 10 && y < 30;
+                fuera += dentro ? 0 : 1;
+                (x < 40 ? izquierda : derecha) += 1;
+            }
+        }
+    }
+    EXPECT_EQ(fuera, 0);
+    EXPECT_GT(izquierda, 10);
+    EXPECT_GT(derecha, 10);
+}
+
+TEST(Cursores, LaManoQueSenalaDoblaLosOtrosDedos) {
+    const QImage abierta = GeneraManoAbierta(Qt::white);
+    const QImage indice = GeneraManoIndice();
+    // Above the knuckles, right of the index finger: fingers in the open
+    // hand only.
+    int enAbierta = 0, enIndice = 0;
+    for (int y = 2; y < 9; ++y) {
+        for (int x = 16; x < 30; ++x) {
+            enAbierta += qAlpha(abierta.pixel(x, y)) > 0 ? 1 : 0;
+            enIndice += qAlpha(indice.pixel(x, y)) > 0 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(enAbierta, 20);
+    EXPECT_EQ(enIndice, 0);
+    // The coloured hands differ from the white one only where it is white.
+    const QImage roja = GeneraManoAbierta(QColor(225, 25, 25));
+    for (int y = 0; y < LadoCursor; ++y) {
+        for (int x = 0; x < LadoCursor; ++x) {
+            ASSERT_EQ(qAlpha(roja.pixel(x, y)), qAlpha(abierta.pixel(x, y)));
+            if (qGray(abierta.pixel(x, y)) < 100 && qAlpha(abierta.pixel(x, y)) == 255) {
+                ASSERT_EQ(roja.pixel(x, y), abierta.pixel(x, y)) << x << "," << y;
+            }
+        }
+    }
+}
+
+TEST(Cronometro, LasTeclasEnSusMarcosComoConElRelojParado) {
+    const QImage c = GeneraCronometro();
+    const struct {
+        int x, y;
+        QRgb color;
+    } puntos[] = {
+        {4, 4, 0xFFFFFF},  {4, 10, 0xFFFFFF},  {20, 14, 0x000000}, {31, 9, 0x000000},
+        {45, 4, 0xFFFFFF}, {58, 9, 0x000000},  {45, 14, 0x000000}, {6, 13, 0x005000},
+        {29, 9, 0x005000}, {56, 9, 0xA00000},  {3, 18, 0x808080},  {57, 34, 0xFFFFFF},
+        {1, 20, 0xE0E0E0}, {60, 20, 0x808080},
+    };
+    for (const auto &p : puntos) {
+        EXPECT_EQ(c.pixel(p.x, p.y) & 0xFFFFFF, p.color) << p.x << "," << p.y;
+    }
+}
+
+TEST(TiraBotones, LaCruzYLaMarcaGuardanTodaSuSombra) {
+    // Images 12 and 13 are never pressed: their whole shadow stays.
+    for (int i = 12; i <= 13; ++i) {
+        const QImage con = ComponeIcono(CapasIcono(i), {});
+        int sombra = 0;
+        for (int y = 0; y < LadoIcono; ++y) {
+            for (int x = 0; x < LadoIcono; ++x) {
+                sombra += con.pixel(x, y) == ColorSombra ? 1 : 0;
+            }
+        }
+        EXPECT_GT(sombra, 80) << i;
+    }
+    // A seed far from any shadow takes it all away from image 1.
+    const QImage sinSombra = ComponeIcono(CapasIcono(1), {QPoint(5, 5)});
+    for (int y = 0; y < LadoIcono; ++y) {
+        for (int x = 0; x < LadoIcono; ++x) {
+            ASSERT_NE(sinSombra.pixel(x, y), ColorSombra);
+        }
+    }
+    EXPECT_TRUE(CapasIcono(0).empty());
+    EXPECT_TRUE(CapasIcono(14).empty());
+    EXPECT_TRUE(SemillasBoton(14).empty());
 }
