@@ -177,7 +177,7 @@ QImage GeneraMuestraFuente() {
         const double y = azar.Entre(340, 560);
         double px = azar.Entre(20, 780);
         if (px > 130 && px < 670 && y < 560) {
-            px = px < 400 ? px - 120 : px + 120;
+            px = px < 400 ? 120 - (400 - px) * 0.35 : 680 + (px - 400) * 0.35;
         }
         PintaPersona(p, {px, y}, 40 + (y - 330) * 0.4, 150 + k);
     }
