@@ -174,3 +174,22 @@ TEST(RasterSuperficie, TextoPasaPorElRotulador) {
 }
 
 } // namespace
+
+TEST(SuperficieImagen, ClsVuelveAPonerLaImagenAsignada) {
+    Superficie cara(4, 3, 0x00FF00);
+    cara.PSet(1, 1, 0x0000FF);
+    Superficie panel(6, 5, 0xC0C0C0);
+    panel.AsignaImagen(cara);
+    panel.PSet(1, 1, 0xFF0000); // drawn over the picture
+    panel.PSet(5, 4, 0xFF0000); // drawn over the background
+    panel.Cls();
+    EXPECT_EQ(panel.Point(1, 1), 0x0000FFu); // the picture's pixel again
+    EXPECT_EQ(panel.Point(0, 0), 0x00FF00u);
+    EXPECT_EQ(panel.Point(5, 4), 0xC0C0C0u); // beyond the picture: background
+    panel.PonBackColor(0x123456);
+    EXPECT_EQ(panel.Point(1, 1), 0x0000FFu);
+    EXPECT_EQ(panel.Point(5, 4), 0x123456u);
+    panel.QuitaImagen(); // an empty picture: nothing comes back any more
+    panel.Cls();
+    EXPECT_EQ(panel.Point(1, 1), 0x123456u);
+}

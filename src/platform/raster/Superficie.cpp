@@ -61,17 +61,28 @@ void Superficie::CambiaTamano(double ancho, double alto) {
 
 void Superficie::PonBackColor(Color c) {
     fondo_ = c;
-    QuitaImagen();
+    PintaFondoEImagen();
 }
 
 void Superficie::Cls() {
-    QuitaImagen();
+    PintaFondoEImagen();
     CurrentX = 0;
     CurrentY = 0;
 }
 
 void Superficie::QuitaImagen() {
+    imagen_.clear();
+    imagenAncho_ = imagenAlto_ = 0;
+    PintaFondoEImagen();
+}
+
+// The background, and the kept picture at the top left corner.
+void Superficie::PintaFondoEImagen() {
     std::fill(pix_.begin(), pix_.end(), APixel(fondo_));
+    const int32_t comunes = std::min(ancho_, imagenAncho_);
+    for (int32_t y = 0; y < std::min(alto_, imagenAlto_); ++y) {
+        std::copy_n(imagen_.data() + static_cast<size_t>(y) * imagenAncho_, comunes, Fila(y));
+    }
     Cambiado(Limites());
 }
 
@@ -80,18 +91,17 @@ void Superficie::AsignaImagen(const Superficie &origen) {
         Cambiado(Limites());
         return;
     }
+    imagen_ = origen.pix_;
+    imagenAncho_ = origen.ancho_;
+    imagenAlto_ = origen.alto_;
     if (TomaTamanoDeImagen) {
         ancho_ = origen.ancho_;
         alto_ = origen.alto_;
         pix_ = origen.pix_;
+        Cambiado(Limites());
     } else {
-        std::fill(pix_.begin(), pix_.end(), APixel(fondo_));
-        const int32_t comunes = std::min(ancho_, origen.ancho_);
-        for (int32_t y = 0; y < std::min(alto_, origen.alto_); ++y) {
-            std::copy_n(origen.Fila(y), comunes, Fila(y));
-        }
+        PintaFondoEImagen();
     }
-    Cambiado(Limites());
 }
 
 void Superficie::PonRecorte(const Region *r) {

@@ -83,7 +83,9 @@ class Superficie {
     double TextHeight(const std::string &texto) const;
 
     // --- drawing ---
-    void Cls(); // whole surface in the background colour; CurrentX/Y = 0
+    // The whole surface in the background colour with the assigned picture
+    // over it, as a picture box clears; CurrentX/Y = 0.
+    void Cls();
     void PSet(double x, double y);
     void PSet(double x, double y, Color c);
     // The colour word of a pixel; -1 (all bits set) outside the surface.
@@ -109,8 +111,10 @@ class Superficie {
     // the surface takes the picture's size; otherwise it keeps its size and
     // the picture is laid at its top left corner over the background.
     bool TomaTamanoDeImagen = false;
+    // The surface keeps the picture: Cls and PonBackColor lay it again.
     void AsignaImagen(const Superficie &origen);
-    // An empty picture: the surface is plain in its background colour.
+    // An empty picture: the surface is plain in its background colour and
+    // keeps no picture.
     void QuitaImagen();
 
     // --- clip region (SelectClipRgn) ---
@@ -134,6 +138,12 @@ class Superficie {
     Color fondo_ = COLOR_BLANCO;
     std::vector<uint32_t> pix_;
     std::optional<Region> recorte_;
+    // The assigned picture, kept to be laid again by Cls.
+    std::vector<uint32_t> imagen_;
+    int32_t imagenAncho_ = 0;
+    int32_t imagenAlto_ = 0;
+
+    void PintaFondoEImagen();
 };
 
 // The platform's text service: fonts, measuring and drawing into a surface.
