@@ -12,6 +12,7 @@ PAQUETES=(
     libgmock-dev
     libbenchmark-dev
     qt6-base-dev
+    qt6-multimedia-dev
     libgl-dev
     fonts-dejavu-core
     clang-format

@@ -1,0 +1,14 @@
+// Teselari: the game starts with the load of its main form.
+#include <QApplication>
+
+#include "platform/qt/Arranque.h"
+
+int main(int argc, char *argv[]) {
+    QApplication aplicacion(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("teselari"));
+    Form_Load();
+    if (ProgramaTerminado()) {
+        return 0;
+    }
+    return QApplication::exec();
+}

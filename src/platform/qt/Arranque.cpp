@@ -1,0 +1,134 @@
+#include "platform/qt/Arranque.h"
+
+#include <QApplication>
+#include <QGuiApplication>
+#include <QImage>
+#include <QScreen>
+#include <cstring>
+
+#include "core/PuzzGbl.h"
+#include "panels/Cronometro.h"
+#include "panels/Paneles.h"
+#include "platform/qt/Cursores.h"
+#include "platform/qt/FormMensajes.h"
+#include "platform/qt/Manejadores.h"
+#include "platform/qt/ReproductorSonidos.h"
+#include "platform/qt/RotuladorQt.h"
+#include "platform/qt/VentanaTeselari.h"
+#include "platform/raster/Region.h"
+#include "services/Esperas.h"
+#include "services/Plataforma.h"
+#include "services/Sonidos.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+VentanaTeselari *ventana = nullptr;
+bool terminado = false;
+
+void Eventos() {
+    QCoreApplication::processEvents();
+    if (ventana != nullptr) {
+        ventana->Sincroniza();
+    }
+}
+
+void Termina() {
+    terminado = true;
+    if (ventana != nullptr) {
+        ventana->Timer1.stop();
+        ventana->hide();
+    }
+    QCoreApplication::exit(0);
+}
+
+} // namespace
+
+QString RutaTiraBotones() {
+    return QStringLiteral(":/teselari/botones.png");
+}
+
+QString RutaCaraCronometro() {
+    return QStringLiteral(":/teselari/cronometro.png");
+}
+
+bool CargaRecurso(const QString &ruta, Superficie &s) {
+    QImage imagen(ruta);
+    if (imagen.isNull()) {
+        return false;
+    }
+    imagen = imagen.convertToFormat(QImage::Format_RGB32);
+    const int ancho = std::min(imagen.width(), s.Ancho());
+    const int alto = std::min(imagen.height(), s.Alto());
+    for (int y = 0; y < alto; ++y) {
+        std::memcpy(s.Fila(y), imagen.constScanLine(y), static_cast<size_t>(ancho) * 4);
+    }
+    s.Cambiado(s.Limites());
+    return true;
+}
+
+bool ProgramaTerminado() {
+    return terminado;
+}
+
+void InstalaServicios() {
+    static RotuladorQt rotulador;
+    PonRotulador(&rotulador);
+    static ReproductorSonidos *reproductor = new ReproductorSonidos(qApp);
+    PonReproductor(reproductor);
+    ServiciosPlataforma s;
+    s.Mensaje = MuestraFormMensajes;
+    s.Sonido = ReproduceClip;
+    s.Eventos = Eventos;
+    s.Termina = Termina;
+    PonServiciosPlataforma(s);
+}
+
+VentanaTeselari &Form_Load() {
+    RestauraValoresIniciales();
+    InstalaServicios();
+
+    // 1. One second of counting, before any window.
+    CalibraVelocidad();
+    // 2. The hourglass over the whole screen until the end of the load.
+    teselari.MousePointer = PUNTERO_ESPERA;
+    AplicaPunteroPantalla(teselari.MousePointer);
+    // 3, 4.
+    NuevaLinea = "\r\n";
+    Velocidad = 50;
+    // 9, 10.
+    ModoResolver = FALSO;
+    const QRect pantalla = QGuiApplication::primaryScreen()->geometry();
+    AnchoPantalla = static_cast<int16_t>(pantalla.width());
+    AltoPantalla = static_cast<int16_t>(pantalla.height());
+    // 12. The five regions exist for the whole run; they start empty.
+    for (Region *r : {&RegionAnterior, &RegionNueva, &RegionRecorte, &RegionPieza, &RegionSuelta}) {
+        SetRectRgn(*r, 0, 0, 0, 0);
+    }
+    // 13, 14.
+    LlenaTablas();
+    BotonPulsado.fill(FALSO);
+    CargaRecurso(RutaTiraBotones(), teselari.Pic_BmpBoton);
+    CargaRecurso(RutaCaraCronometro(), teselari.Pic_Cronome);
+
+    ventana = new VentanaTeselari();
+    ConectaManejadores(*ventana);
+
+    // 16, 17.
+    DibujaBotonesSiempre();
+    ActualizaPistas();
+    // 18. The window covers the screen.
+    ventana->MuestraPantallaCompleta();
+    // 19, 20. The chronometer left of the always-visible panel.
+    Superficie &cronome = teselari.Pic_Cronome;
+    cronome.Move(teselari.Pic_BotonesSiempre.Left - cronome.Ancho(), 0);
+    cronome.Visible = Cronometro < 2;
+    // 21. The clock counts from the time restored; Timer1 ticks from now on.
+    ArrancaCronometro();
+    ventana->Timer1.start();
+    // 23.
+    teselari.MousePointer = PUNTERO_NORMAL;
+    ventana->Sincroniza();
+    return *ventana;
+}

@@ -1,0 +1,28 @@
+// The start of the program: the desktop's services and Form_Load of the
+// main form.
+#pragma once
+
+#include <QString>
+
+class Superficie;
+class VentanaTeselari;
+
+// Installs the desktop's services for the game: the message dialog, the
+// sound player, the event loop, the end of the program and the text.
+void InstalaServicios();
+
+// Form_Load of `teselari`: calibration, tables, working folder, the saved
+// game, the panels, the window shown, the clock started. Returns the window,
+// which lives for the whole run.
+VentanaTeselari &Form_Load();
+
+// A picture of the resources into a surface of the form, at its top left
+// corner and within the surface's size: the strip of button images into
+// Pic_BmpBoton, the face of the chronometer into Pic_Cronome. False when
+// the resource is missing (the surface keeps its grey).
+bool CargaRecurso(const QString &ruta, Superficie &s);
+QString RutaTiraBotones();
+QString RutaCaraCronometro();
+
+// Whether the game asked to end (command 11) before the event loop ran.
+bool ProgramaTerminado();

@@ -1,0 +1,48 @@
+#include "platform/qt/RotuladorQt.h"
+
+#include <QColor>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
+#include <cmath>
+
+int PixelesDePuntos(double puntos) {
+    return std::max(1, static_cast<int>(std::lround(puntos * 96.0 / 72.0)));
+}
+
+QFont FuenteQt(const Fuente &f) {
+    QFont fuente(QStringLiteral("DejaVu Sans"));
+    fuente.setPixelSize(PixelesDePuntos(f.Tamano));
+    fuente.setBold(f.Negrita);
+    fuente.setStyleStrategy(QFont::NoAntialias);
+    return fuente;
+}
+
+double RotuladorQt::Ancho(const Fuente &f, const std::string &texto) {
+    return QFontMetricsF(FuenteQt(f)).horizontalAdvance(QString::fromStdString(texto));
+}
+
+double RotuladorQt::Alto(const Fuente &f, const std::string &) {
+    return std::ceil(QFontMetricsF(FuenteQt(f)).height());
+}
+
+void RotuladorQt::Dibuja(Superficie &s, const Fuente &f, double x, double y, Color c,
+                         const std::string &texto) {
+    if (s.Ancho() <= 0 || s.Alto() <= 0) {
+        return;
+    }
+    QImage lienzo(reinterpret_cast<uchar *>(s.Fila(0)), s.Ancho(), s.Alto(),
+                  static_cast<qsizetype>(s.Ancho()) * 4, QImage::Format_RGB32);
+    QPainter p(&lienzo);
+    if (const auto &recorte = s.Recorte()) {
+        QRegion zona;
+        for (const Rectangulo &r : recorte->Rectangulos()) {
+            zona += QRect(r.Izquierda, r.Arriba, r.Ancho(), r.Alto());
+        }
+        p.setClipRegion(zona);
+    }
+    const QFont fuente = FuenteQt(f);
+    p.setFont(fuente);
+    p.setPen(QColor::fromRgb(APixel(c)));
+    p.drawText(QPointF(x, y + QFontMetricsF(fuente).ascent()), QString::fromStdString(texto));
+}

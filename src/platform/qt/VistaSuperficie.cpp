@@ -1,0 +1,147 @@
+#include "platform/qt/VistaSuperficie.h"
+
+#include <QImage>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "platform/qt/Cursores.h"
+
+VistaSuperficie::VistaSuperficie(Superficie &superficie, QWidget *padre)
+    : QWidget(padre), superficie_(superficie) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoSystemBackground);
+    setMouseTracking(true);
+    Vigila();
+    Sincroniza();
+}
+
+VistaSuperficie::~VistaSuperficie() {
+    superficie_.AlCambiar = nullptr;
+}
+
+void VistaSuperficie::Vigila() {
+    superficie_.AlCambiar = [this](const Rectangulo &r) {
+        // A surface resized or moved by the logic shows its new place before
+        // the drawing that follows is seen.
+        SincronizaLugar();
+        if (isVisible() && !r.Vacio()) {
+            repaint(QRect(r.Izquierda, r.Arriba, r.Ancho(), r.Alto()));
+        }
+    };
+}
+
+void VistaSuperficie::SincronizaLugar() {
+    const QRect lugar(superficie_.Left, superficie_.Top, superficie_.Ancho(), superficie_.Alto());
+    if (geometry() != lugar) {
+        setGeometry(lugar);
+    }
+    if (isHidden() == superficie_.Visible) {
+        setVisible(superficie_.Visible);
+    }
+}
+
+void VistaSuperficie::Sincroniza() {
+    if (!superficie_.AlCambiar) {
+        Vigila();
+    }
+    SincronizaLugar();
+    if (puntero_ != superficie_.MousePointer || icono_ != superficie_.MouseIcon) {
+        puntero_ = superficie_.MousePointer;
+        icono_ = superficie_.MouseIcon;
+        setCursor(CursorDePuntero(puntero_, icono_));
+    }
+    const QString pista = QString::fromStdString(superficie_.ToolTipText);
+    if (toolTip() != pista) {
+        setToolTip(pista);
+    }
+}
+
+void VistaSuperficie::paintEvent(QPaintEvent *evento) {
+    QPainter p(this);
+    const int ancho = superficie_.Ancho();
+    const int alto = superficie_.Alto();
+    if (ancho <= 0 || alto <= 0) {
+        p.fillRect(evento->rect(), Qt::white);
+        return;
+    }
+    // The rows of the surface are 0xFFRRGGBB words: an RGB32 image over them
+    // without a copy.
+    const QImage imagen(reinterpret_cast<const uchar *>(superficie_.Fila(0)), ancho, alto,
+                        static_cast<qsizetype>(ancho) * 4, QImage::Format_RGB32);
+    const QRect zona = evento->rect() & QRect(0, 0, ancho, alto);
+    p.drawImage(zona.topLeft(), imagen, zona);
+    // A widget larger than its surface (for a moment, before Sincroniza)
+    // shows white beyond it.
+    const QRegion resto = QRegion(evento->rect()) - QRegion(0, 0, ancho, alto);
+    for (const QRect &r : resto) {
+        p.fillRect(r, Qt::white);
+    }
+}
+
+int16_t BotonDeRaton(Qt::MouseButton boton) {
+    switch (boton) {
+    case Qt::LeftButton:
+        return 1;
+    case Qt::RightButton:
+        return 2;
+    case Qt::MiddleButton:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+int16_t BotonesDeRaton(Qt::MouseButtons botones) {
+    int16_t b = 0;
+    if (botones & Qt::LeftButton) {
+        b |= 1;
+    }
+    if (botones & Qt::RightButton) {
+        b |= 2;
+    }
+    if (botones & Qt::MiddleButton) {
+        b |= 4;
+    }
+    return b;
+}
+
+int16_t TeclasDeRaton(Qt::KeyboardModifiers teclas) {
+    int16_t t = 0;
+    if (teclas & Qt::ShiftModifier) {
+        t |= 1;
+    }
+    if (teclas & Qt::ControlModifier) {
+        t |= 2;
+    }
+    if (teclas & Qt::AltModifier) {
+        t |= 4;
+    }
+    return t;
+}
+
+void VistaSuperficie::mousePressEvent(QMouseEvent *evento) {
+    const int16_t boton = BotonDeRaton(evento->button());
+    if (AlPulsar && boton != 0) {
+        const QPointF p = evento->position();
+        AlPulsar(boton, TeclasDeRaton(evento->modifiers()), static_cast<float>(p.x()),
+                 static_cast<float>(p.y()));
+    }
+}
+
+void VistaSuperficie::mouseMoveEvent(QMouseEvent *evento) {
+    if (AlMover) {
+        const QPointF p = evento->position();
+        AlMover(BotonesDeRaton(evento->buttons()), TeclasDeRaton(evento->modifiers()),
+                static_cast<float>(p.x()), static_cast<float>(p.y()));
+    }
+}
+
+void VistaSuperficie::mouseReleaseEvent(QMouseEvent *evento) {
+    const int16_t boton = BotonDeRaton(evento->button());
+    if (AlSoltar && boton != 0) {
+        const QPointF p = evento->position();
+        AlSoltar(boton, TeclasDeRaton(evento->modifiers()), static_cast<float>(p.x()),
+                 static_cast<float>(p.y()));
+    }
+}

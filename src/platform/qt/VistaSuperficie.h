@@ -1,0 +1,55 @@
+// VistaSuperficie: a widget that shows a Superficie on the screen.
+//
+// The widget paints the surface's rows as they are, without a copy, and
+// stands where the surface's Left and Top say, at its size. It watches the
+// surface: every drawing operation on it is repainted at once, without the
+// event loop, so a deal or an automatic move is seen while it runs. Mouse
+// events go to the handlers in the game's terms: button 1 left, 2 right,
+// 4 middle, Shift 1 / Ctrl 2 / Alt 4, and surface pixel coordinates.
+#pragma once
+
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "platform/raster/Superficie.h"
+
+class VistaSuperficie : public QWidget {
+    Q_OBJECT
+  public:
+    using Manejador = std::function<void(int16_t boton, int16_t shift, float x, float y)>;
+
+    VistaSuperficie(Superficie &superficie, QWidget *padre = nullptr);
+    ~VistaSuperficie() override;
+
+    Superficie &Control() { return superficie_; }
+
+    // Mirrors place, size, visibility, pointer and tooltip of the surface
+    // onto the widget, and watches the surface again if it was replaced.
+    void Sincroniza();
+
+    Manejador AlPulsar; // MouseDown
+    Manejador AlMover;  // MouseMove
+    Manejador AlSoltar; // MouseUp
+
+  protected:
+    void paintEvent(QPaintEvent *evento) override;
+    void mousePressEvent(QMouseEvent *evento) override;
+    void mouseMoveEvent(QMouseEvent *evento) override;
+    void mouseReleaseEvent(QMouseEvent *evento) override;
+
+  private:
+    void Vigila();
+    void SincronizaLugar();
+
+    Superficie &superficie_;
+    int16_t puntero_ = -1;
+    std::string icono_;
+};
+
+// The game's number of one mouse button, and of the buttons held.
+int16_t BotonDeRaton(Qt::MouseButton boton);
+int16_t BotonesDeRaton(Qt::MouseButtons botones);
+// The game's Shift argument: Shift 1, Ctrl 2, Alt 4.
+int16_t TeclasDeRaton(Qt::KeyboardModifiers teclas);

@@ -1,0 +1,44 @@
+// What the load takes from the resources: the strip of button images and
+// the face of the chronometer, pixel for pixel.
+#include <QImage>
+#include <gtest/gtest.h>
+
+#include "core/PuzzGbl.h"
+#include "platform/qt/Arranque.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+// Every pixel of the picture at the surface's top left corner.
+void CompruebaIgual(const QImage &imagen, const Superficie &s) {
+    ASSERT_FALSE(imagen.isNull());
+    const QImage rgb = imagen.convertToFormat(QImage::Format_RGB32);
+    ASSERT_LE(rgb.width(), s.Ancho());
+    ASSERT_LE(rgb.height(), s.Alto());
+    for (int y = 0; y < rgb.height(); ++y) {
+        for (int x = 0; x < rgb.width(); ++x) {
+            ASSERT_EQ(s.Fila(y)[x], rgb.pixel(x, y)) << x << "," << y;
+        }
+    }
+}
+
+} // namespace
+
+TEST(Arranque, LaTiraDeBotonesYLaCaraDelCronometroVienenDeLosRecursos) {
+    RestauraValoresIniciales();
+    ASSERT_TRUE(CargaRecurso(RutaTiraBotones(), teselari.Pic_BmpBoton));
+    EXPECT_EQ(teselari.Pic_BmpBoton.Ancho(), 638);
+    CompruebaIgual(QImage(RutaTiraBotones()), teselari.Pic_BmpBoton);
+    ASSERT_TRUE(CargaRecurso(RutaCaraCronometro(), teselari.Pic_Cronome));
+    CompruebaIgual(QImage(RutaCaraCronometro()), teselari.Pic_Cronome);
+    // The images of the strip differ: the load is no uniform grey.
+    EXPECT_NE(teselari.Pic_BmpBoton.Point(20, 20), teselari.Pic_BmpBoton.Point(49 * 7 + 20, 20));
+    RestauraValoresIniciales();
+}
+
+TEST(Arranque, UnRecursoQueFaltaDejaLaSuperficieComoEstaba) {
+    Superficie s(10, 10, 0xC0C0C0);
+    EXPECT_FALSE(CargaRecurso(QStringLiteral(":/teselari/no-existe.png"), s));
+    EXPECT_EQ(s.Point(5, 5), 0xC0C0C0u);
+}

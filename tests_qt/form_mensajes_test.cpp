@@ -1,0 +1,183 @@
+// The message dialog: its size and layout for one and nine lines, its drawn
+// border, and its answers to keys and clicks.
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "core/PuzzGbl.h"
+#include "platform/qt/FormMensajes.h"
+#include "platform/qt/VistaSuperficie.h"
+#include "services/Mensajes.h"
+#include "services/Plataforma.h"
+#include "services/Sonidos.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+int16_t ultimoClip = 0;
+void ApuntaClip(int16_t clip) {
+    ultimoClip = clip;
+}
+
+class FormMensajesTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        RestauraValoresIniciales();
+        ServiciosPlataforma s;
+        s.Mensaje = MuestraFormMensajes;
+        s.Sonido = ApuntaClip;
+        PonServiciosPlataforma(s);
+        ultimoClip = 0;
+        Sonido = 1;
+    }
+    void TearDown() override { PonServiciosPlataforma(ServiciosPlataforma{}); }
+
+    // Does `accion` on the modal message as soon as it is open.
+    static void AlAbrirse(std::function<void(FormMensajes *)> accion) {
+        QTimer::singleShot(0, [accion] {
+            auto *f = qobject_cast<FormMensajes *>(QApplication::activeModalWidget());
+            ASSERT_NE(f, nullptr);
+            accion(f);
+        });
+    }
+};
+
+} // namespace
+
+TEST_F(FormMensajesTest, UnaLineaYDosBotones) {
+    MensajeLineas = 1;
+    MensajeBotones = 2;
+    FormMensajes f("SALIR DE TESELARI", "¿Desea abandonar el programa?");
+    EXPECT_EQ(f.size(), QSize(400, 151));
+    EXPECT_EQ(f.pos(), QPoint((1024 - 400) / 2, (768 - 151) / 2));
+    EXPECT_EQ(f.Tex_Titulo->geometry(), QRect(20, 15, 365, 22));
+    EXPECT_EQ(f.Tex_Mensaje->geometry(), QRect(20, 50, 365, 19));
+    ASSERT_NE(f.Pic_Si, nullptr);
+    ASSERT_NE(f.Pic_No, nullptr);
+    EXPECT_EQ(f.Pic_Salir, nullptr);
+    EXPECT_EQ(f.Pic_Si->geometry(), QRect(100, 79, 56, 56));
+    EXPECT_EQ(f.Pic_No->geometry(), QRect(250, 79, 56, 56));
+    EXPECT_EQ(f.Tex_Titulo->text(), QStringLiteral("SALIR DE TESELARI"));
+    EXPECT_EQ(f.Tex_Mensaje->text(), QStringLiteral("¿Desea abandonar el programa?"));
+    EXPECT_TRUE(f.Tex_Titulo->font().bold());
+    EXPECT_EQ(f.Tex_Titulo->palette().color(QPalette::WindowText), QColor(0, 0, 0x80));
+}
+
+TEST_F(FormMensajesTest, NueveLineasYUnBoton) {
+    MensajeLineas = 9;
+    MensajeBotones = 1;
+    FormMensajes f("Imagen no válida", "a\r\nb\r\nc");
+    EXPECT_EQ(f.size(), QSize(400, 279));
+    EXPECT_EQ(f.Tex_Mensaje->height(), 147);
+    EXPECT_EQ(f.Tex_Mensaje->text(), QStringLiteral("a\nb\nc"));
+    ASSERT_NE(f.Pic_Salir, nullptr);
+    EXPECT_EQ(f.Pic_Si, nullptr);
+    EXPECT_EQ(f.Pic_Salir->geometry(), QRect(329, 50 + 16 * 9 + 15, 56, 56));
+}
+
+TEST_F(FormMensajesTest, UnBotonEnUnaLineaQuedaEn81) {
+    MensajeLineas = 1;
+    MensajeBotones = 1;
+    FormMensajes f("TESELARI", "Ha conseguido resolver el puzzle");
+    ASSERT_NE(f.Pic_Salir, nullptr);
+    EXPECT_EQ(f.Pic_Salir->geometry(), QRect(329, 81, 56, 56));
+}
+
+TEST_F(FormMensajesTest, BordeEnRelieveYMarcosHundidos) {
+    MensajeLineas = 1;
+    MensajeBotones = 1;
+    FormMensajes f("T", "x");
+    const Superficie &s = f.Fondo();
+    // Two white pixels at the top and left edges, two grey at the others.
+    EXPECT_EQ(s.Point(200, 0), COLOR_BLANCO);
+    EXPECT_EQ(s.Point(200, 1), COLOR_BLANCO);
+    EXPECT_EQ(s.Point(0, 70), COLOR_BLANCO);
+    EXPECT_EQ(s.Point(1, 70), COLOR_BLANCO);
+    EXPECT_EQ(s.Point(200, 150), 0x808080u);
+    EXPECT_EQ(s.Point(200, 149), 0x808080u);
+    EXPECT_EQ(s.Point(399, 70), 0x808080u);
+    EXPECT_EQ(s.Point(398, 70), 0x808080u);
+    EXPECT_EQ(s.Point(200, 2), 0xC0C0C0u);
+    // The title's frame: grey above and left, white right and below.
+    EXPECT_EQ(s.Point(100, 14), 0x808080u);
+    EXPECT_EQ(s.Point(14, 20), 0x808080u);
+    EXPECT_EQ(s.Point(385, 20), COLOR_BLANCO);
+    EXPECT_EQ(s.Point(100, 37), COLOR_BLANCO);
+    // The text's frame, 19 high for one line.
+    EXPECT_EQ(s.Point(100, 49), 0x808080u);
+    EXPECT_EQ(s.Point(100, 69), COLOR_BLANCO);
+}
+
+TEST_F(FormMensajesTest, CualquierTeclaAcepta) {
+    for (Qt::Key tecla : {Qt::Key_Escape, Qt::Key_N, Qt::Key_Return}) {
+        RespuestaMensaje = FALSO;
+        AlAbrirse([tecla](FormMensajes *f) { QTest::keyClick(f, tecla); });
+        MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2);
+        EXPECT_EQ(RespuestaMensaje, VERDADERO) << tecla;
+        EXPECT_EQ(ultimoClip, 4);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
+}
+
+TEST_F(FormMensajesTest, RechazarYAceptarConElRaton) {
+    AlAbrirse([](FormMensajes *f) { QTest::mouseClick(f->Pic_No, Qt::LeftButton); });
+    MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2);
+    EXPECT_EQ(RespuestaMensaje, FALSO);
+    EXPECT_EQ(ultimoClip, 4);
+    AlAbrirse([](FormMensajes *f) { QTest::mouseClick(f->Pic_Si, Qt::LeftButton); });
+    MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2);
+    EXPECT_EQ(RespuestaMensaje, VERDADERO);
+}
+
+TEST_F(FormMensajesTest, UnBotonSeCierraConUnaTeclaSinSonidoYDejaLaRespuesta) {
+    RespuestaMensaje = VERDADERO;
+    AlAbrirse([](FormMensajes *f) { QTest::keyClick(f, Qt::Key_Space); });
+    MuestraMensaje("TESELARI", "Ha conseguido resolver el puzzle", 1, 1);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(ultimoClip, 0);
+    EXPECT_EQ(RespuestaMensaje, VERDADERO);
+    AlAbrirse([](FormMensajes *f) { QTest::mouseClick(f->Pic_Salir, Qt::LeftButton); });
+    MuestraMensaje("TESELARI", "Ha conseguido resolver el puzzle", 1, 1);
+    EXPECT_EQ(ultimoClip, 4);
+    EXPECT_EQ(teselari.MousePointer, PUNTERO_NORMAL);
+}
+
+TEST_F(FormMensajesTest, PistasYManoSobreLosBotones) {
+    MensajeLineas = 1;
+    MensajeBotones = 2;
+    Pistas = 1;
+    FormMensajes con("T", "x");
+    EXPECT_EQ(con.Pic_Si->toolTip(), QStringLiteral("Aceptar"));
+    EXPECT_EQ(con.Pic_No->toolTip(), QStringLiteral("Rechazar"));
+    Pistas = 2;
+    FormMensajes sin("T", "x");
+    EXPECT_TRUE(sin.Pic_Si->toolTip().isEmpty());
+    sin.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&sin));
+    QTest::mouseMove(sin.Pic_Si, QPoint(20, 20));
+    EXPECT_EQ(sin.Pic_Si->Control().MousePointer, PUNTERO_PROPIO);
+    EXPECT_EQ(sin.Pic_Si->Control().MouseIcon, "MANOINDICE");
+    EXPECT_EQ(sin.Pic_Si->cursor().shape(), Qt::BitmapCursor);
+    EXPECT_EQ(sin.Pic_Si->cursor().hotSpot(), QPoint(12, 1));
+}
+
+TEST_F(FormMensajesTest, LosBotonesLlevanSuImagenDeLaTira) {
+    // A strip whose image i is filled with the colour i.
+    for (int i = 1; i <= 13; ++i) {
+        teselari.Pic_BmpBoton.CajaLlena((i - 1) * 49 + 1, 1, (i - 1) * 49 + 48, 48,
+                                        static_cast<Color>(i * 0x10));
+    }
+    MensajeLineas = 1;
+    MensajeBotones = 2;
+    FormMensajes dos("T", "x");
+    EXPECT_EQ(dos.Pic_Si->Control().Point(20, 20), 13u * 0x10);
+    EXPECT_EQ(dos.Pic_No->Control().Point(20, 20), 12u * 0x10);
+    EXPECT_EQ(dos.Pic_Si->Control().Point(5, 5), 13u * 0x10);
+    EXPECT_EQ(dos.Pic_Si->Control().Point(4, 4), 0xC0C0C0u);
+    MensajeBotones = 1;
+    FormMensajes uno("T", "x");
+    EXPECT_EQ(uno.Pic_Salir->Control().Point(30, 30), 11u * 0x10);
+}

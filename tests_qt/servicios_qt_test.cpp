@@ -1,0 +1,130 @@
+// The desktop's small services: pointers, text, pictures and sounds.
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "platform/qt/CargaImagenQt.h"
+#include "platform/qt/Cursores.h"
+#include "platform/qt/ReproductorSonidos.h"
+#include "platform/qt/RotuladorQt.h"
+#include "platform/raster/Superficie.h"
+
+TEST(Cursores, PunterosPorNumero) {
+    EXPECT_EQ(CursorDePuntero(0, "").shape(), Qt::ArrowCursor);
+    EXPECT_EQ(CursorDePuntero(11, "").shape(), Qt::WaitCursor);
+    EXPECT_EQ(CursorDePuntero(12, "").shape(), Qt::ForbiddenCursor);
+    EXPECT_EQ(CursorDePuntero(15, "").shape(), Qt::SizeAllCursor);
+    EXPECT_EQ(CursorDePuntero(3, "").shape(), Qt::ArrowCursor);
+}
+
+TEST(Cursores, LasCuatroManosDeLosRecursos) {
+    for (const char *mano : {"ManoBlanca", "MANOINDICE", "manoroja", "ManoVerde"}) {
+        const QCursor c = CursorDePuntero(99, mano);
+        EXPECT_EQ(c.shape(), Qt::BitmapCursor) << mano;
+        EXPECT_EQ(c.hotSpot(), QPoint(12, 1)) << mano;
+        EXPECT_EQ(c.pixmap().size(), QSize(32, 32)) << mano;
+    }
+    EXPECT_EQ(RutaCursor("ManoIndice"), QStringLiteral(":/teselari/cursores/manoindice.png"));
+    // A name that is no hand gives the arrow.
+    EXPECT_EQ(CursorDePuntero(99, "MANOAZUL").shape(), Qt::ArrowCursor);
+}
+
+TEST(RotuladorQt, TamanosQueGuardanLasAlturasDeLinea) {
+    RotuladorQt r;
+    EXPECT_EQ(PixelesDePuntos(8.25), 11);
+    EXPECT_EQ(PixelesDePuntos(9.75), 13);
+    EXPECT_EQ(PixelesDePuntos(12), 16);
+    const Fuente normal;
+    const double alto = r.Alto(normal, "Ág");
+    EXPECT_GE(alto, 11.0);
+    EXPECT_LE(alto, 16.0);
+    EXPECT_GT(r.Ancho(normal, "MMMM"), r.Ancho(normal, "iiii"));
+    Fuente negrita = normal;
+    negrita.Negrita = true;
+    EXPECT_GT(r.Ancho(negrita, "MMMM"), r.Ancho(normal, "MMMM"));
+    EXPECT_DOUBLE_EQ(r.Ancho(normal, ""), 0.0);
+}
+
+TEST(RotuladorQt, DibujaEnLaSuperficieSoloDondeVaElTexto) {
+    RotuladorQt r;
+    PonRotulador(&r);
+    Superficie s(120, 40, COLOR_BLANCO);
+    s.ForeColor = 0xFF0000; // blue
+    s.CurrentX = 10;
+    s.CurrentY = 5;
+    s.Print("25 / 400");
+    const double ancho = r.Ancho(s.Letra, "25 / 400");
+    EXPECT_DOUBLE_EQ(s.CurrentX, 10 + ancho);
+    int azules = 0;
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < 120; ++x) {
+            const Color c = s.Point(x, y);
+            if (c != COLOR_BLANCO) {
+                ++azules;
+                EXPECT_GE(x, 10);
+                EXPECT_LT(x, 10 + ancho + 1);
+                EXPECT_GE(y, 5);
+                EXPECT_LT(y, 5 + r.Alto(s.Letra, "x"));
+            }
+        }
+    }
+    EXPECT_GT(azules, 20);
+    PonRotulador(nullptr);
+}
+
+TEST(CargaImagenQt, LeeUnaImagenConSusPixeles) {
+    QTemporaryDir carpeta;
+    QImage imagen(30, 20, QImage::Format_RGB32);
+    imagen.fill(QColor(10, 20, 30));
+    imagen.setPixel(29, 19, qRgb(200, 100, 50));
+    const QString ruta = carpeta.filePath(QStringLiteral("prueba.bmp"));
+    ASSERT_TRUE(imagen.save(ruta, "BMP"));
+    Superficie s(5, 5);
+    ASSERT_TRUE(CargaImagenQt(ruta.toStdString(), s));
+    EXPECT_EQ(s.Ancho(), 30);
+    EXPECT_EQ(s.Alto(), 20);
+    EXPECT_EQ(s.Point(0, 0), RGB(10, 20, 30));
+    EXPECT_EQ(s.Point(29, 19), RGB(200, 100, 50));
+    // The same picture under another name is sniffed by its content.
+    const QString rle = carpeta.filePath(QStringLiteral("prueba.rle"));
+    ASSERT_TRUE(QFile::copy(ruta, rle));
+    EXPECT_TRUE(CargaImagenQt(rle.toStdString(), s));
+    EXPECT_FALSE(BmpTruncado(ruta.toStdString()));
+}
+
+TEST(CargaImagenQt, RechazaUnBmpCortadoYUnFicheroQueNoEsImagen) {
+    QTemporaryDir carpeta;
+    QImage imagen(64, 64, QImage::Format_RGB32);
+    imagen.fill(Qt::red);
+    const QString ruta = carpeta.filePath(QStringLiteral("cortado.bmp"));
+    ASSERT_TRUE(imagen.save(ruta, "BMP"));
+    QFile f(ruta);
+    ASSERT_TRUE(f.resize(f.size() - 300));
+    EXPECT_TRUE(BmpTruncado(ruta.toStdString()));
+    Superficie s(5, 5);
+    EXPECT_FALSE(CargaImagenQt(ruta.toStdString(), s));
+    EXPECT_EQ(s.Ancho(), 5);
+    const QString texto = carpeta.filePath(QStringLiteral("nada.jpg"));
+    QFile t(texto);
+    ASSERT_TRUE(t.open(QIODevice::WriteOnly));
+    t.write("no soy una imagen");
+    t.close();
+    EXPECT_FALSE(CargaImagenQt(texto.toStdString(), s));
+    EXPECT_FALSE(CargaImagenQt(carpeta.filePath("falta.bmp").toStdString(), s));
+}
+
+TEST(ReproductorSonidos, UnClipNuevoCortaElAnteriorYNadaEspera) {
+    ReproductorSonidos r;
+    EXPECT_EQ(r.Ultimo(), 0);
+    r.Reproduce(5);
+    EXPECT_EQ(r.Ultimo(), 5);
+    r.Reproduce(4);
+    EXPECT_EQ(r.Ultimo(), 4);
+    r.Reproduce(0);
+    r.Reproduce(13);
+    EXPECT_EQ(r.Ultimo(), 4);
+    EXPECT_EQ(RutaSonido(12), QStringLiteral("qrc:/teselari/sonidos/12.wav"));
+    EXPECT_TRUE(QFile::exists(QStringLiteral(":/teselari/sonidos/12.wav")));
+}
