@@ -196,6 +196,30 @@ INSTANTIATE_TEST_SUITE_P(Juegos, Reparto, ::testing::ValuesIn(JUEGOS),
                              return nombre.str();
                          });
 
+TEST_F(Motor, LevantarUnaPiezaSobreElMarcoDejaElMarcoEntero) {
+    // Pieces dropped over the frame's corner, its right line and its bottom
+    // line: lifting one brings back exactly the frame under it.
+    for (int16_t tipo : {0, 1, 2}) {
+        PreparaJuego(4, tipo, 400, 300);
+        PreparaBitmap();
+        Pieza &q = Piezas[OrdenPiezas[1]];
+        for (auto [dx, dy] : {std::pair{-30, -20}, std::pair{-30, -150}, std::pair{-250, -20}}) {
+            q.X = AnchoPuzzle + dx;
+            q.Y = AltoPuzzle + dy;
+            Superficie conPieza;
+            PintaPilaDeNuevo(conPieza);
+            Superficie sinPieza;
+            PintaPilaDeNuevo(sinPieza, 2);
+            BitBlt(teselari.Pic_Imagen, 0, 0, conPieza.Ancho(), conPieza.Alto(), conPieza, 0, 0,
+                   SRCCOPY);
+            LevantaPieza(q.X, q.Y);
+            EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, sinPieza)) << tipo << " " << dx;
+            EXPECT_EQ(teselari.Pic_Imagen.Point(AnchoPuzzle, AltoPuzzle),
+                      static_cast<Color>(ColorContraste));
+        }
+    }
+}
+
 TEST_F(Motor, ElPanelApartaLasPiezasDeSuEsquina) {
     // A large panel over most of the right of the board: the pieces that
     // would fall under it are moved to its left.

@@ -14,16 +14,18 @@ using namespace PuzzGbl;
 namespace {
 
 // The frame lines that cross the box of the lifted piece come back, inside
-// the box only (the clip region holds it).
+// the box only (the clip region holds it). Each line takes its end point
+// too, one further than a line reaches, so that the corner where the two
+// meet comes back as the frame's box drew it.
 void RepintaMarco(Superficie &s, int32_t a, int32_t b) {
     const Color c = static_cast<Color>(ColorContraste);
     if (a + AnchoPiezaTotal >= AnchoPuzzle && a <= AnchoPuzzle && b <= AltoPuzzle) {
         const int32_t e = std::min<int32_t>(b + AltoPiezaTotal, AltoPuzzle);
-        s.Line(AnchoPuzzle, b, AnchoPuzzle, e, c);
+        s.Line(AnchoPuzzle, b, AnchoPuzzle, e + 1, c);
     }
     if (b + AltoPiezaTotal >= AltoPuzzle && b <= AltoPuzzle && a <= AnchoPuzzle) {
         const int32_t e = std::min<int32_t>(a + AnchoPiezaTotal, AnchoPuzzle);
-        s.Line(a, AltoPuzzle, e, AltoPuzzle, c);
+        s.Line(a, AltoPuzzle, e + 1, AltoPuzzle, c);
     }
 }
 
