@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "core/Sesion.h"
+#include "core/TextoIni.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
 #include "services/Plataforma.h"
@@ -72,6 +73,52 @@ inline bool OrdenEsPermutacion() {
     std::set<int16_t> vistos(OrdenPiezas.begin() + 1, OrdenPiezas.end());
     return vistos.size() == static_cast<size_t>(NroPiezas) && *vistos.begin() == 1 &&
            *vistos.rbegin() == NroPiezas;
+}
+
+// Every setting and flag within what a game can hold, the grid's count
+// derived from it, and the pile a permutation.
+inline ::testing::AssertionResult PartidaCoherente() {
+    using namespace PuzzGbl;
+    auto en = [](int v, int a, int b) { return v >= a && v <= b; };
+    if (!en(PiezasPorLado, 3, 20) || !en(TipoPieza, 0, 5) || !en(FactorPegado, 0, 100) ||
+        !en(ColorFondo, 0, 5) || !en(Velocidad, 0, 100) || !en(Zoom, 5, 995) || !en(Sonido, 1, 2) ||
+        !en(Cronometro, 1, 2) || !en(Pistas, 1, 2) || !en(PuzzleCompleto, -1, 0) ||
+        !en(PartidaValida, -1, 0) || SegundosCronometro < 0) {
+        return ::testing::AssertionFailure() << "a setting out of range";
+    }
+    if (PiezasDobles != (TipoPieza >= 2 ? 1 : 0) ||
+        NroPiezas != PiezasPorLado * PiezasPorLado * (1 + PiezasDobles)) {
+        return ::testing::AssertionFailure() << "grid and count disagree";
+    }
+    if (CadenaFija(NombreJugador, 9) != NombreJugador) {
+        return ::testing::AssertionFailure() << "the name is not 9 characters";
+    }
+    if (!OrdenEsPermutacion()) {
+        return ::testing::AssertionFailure() << "OrdenPiezas is not a permutation";
+    }
+    return ::testing::AssertionSuccess();
+}
+
+// Block 1 to 3 of a file written by hand: the picture, its zoom and grid;
+// the other settings as `ajustes` gives them (FactorPegado, ColorFondo,
+// Cronometro, Velocidad, Sonido, Pistas).
+inline std::string BloquesDeAjustes(const std::string &fichero, int zoom, int lado, int tipo,
+                                    std::array<int, 6> ajustes = {50, 3, 2, 50, 1, 1}) {
+    auto n = [](int v) { return std::to_string(v); };
+    std::string t = "\"";
+    t += fichero;
+    t += "\",";
+    t += n(ajustes[0]) + "," + n(ajustes[1]) + "," + n(ajustes[2]);
+    t += ",#FALSE#,\"Pepe     \",";
+    t += n(ajustes[3]) + "," + n(ajustes[4]) + "," + n(ajustes[5]);
+    t += "\r\n";
+    for (int i = 1; i <= 11; ++i) {
+        t += "#TRUE#,#FALSE#\r\n";
+    }
+    t += "\"foto\",9,";
+    t += n(lado) + ",0," + n(tipo) + ",-1,77," + n(zoom);
+    t += ",\"/\",\"/tmp\"\r\n";
+    return t;
 }
 
 // Restores an environment variable on leaving.

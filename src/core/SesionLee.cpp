@@ -1,0 +1,212 @@
+// Bringing back the game of the last run from TESEL32.INI.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <initializer_list>
+
+#include "board/Barajar.h"
+#include "core/ErroresFichero.h"
+#include "core/PuzzGbl.h"
+#include "core/Sesion.h"
+#include "core/SesionBloques.h"
+#include "core/SesionImagen.h"
+#include "core/TextoIni.h"
+#include "cutting/Corte.h"
+#include "panels/Comandos.h"
+#include "services/Mensajes.h"
+#include "services/Sonidos.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+// A valid file is a few tens of kilobytes; what lies beyond this is no part
+// of a game.
+constexpr size_t TAMANO_MAXIMO = 1 << 20;
+
+// The error handler of the opening: the number is kept and told.
+void TrataErrorFichero(int16_t numero) {
+    ErrorFichero = numero;
+    if (numero != 6) {
+        MuestraMensaje("Error leyendo fichero de datos iniciales",
+                       TextoErrorIni(numero, UnidadDeCarpeta(DirectorioTrabajo)), 3, 1);
+    }
+}
+
+// Enters DirectorioTrabajo and reads the file whole. A folder that can't be
+// entered is reported alone: the file is not then looked for elsewhere.
+std::string AbreFicheroIni() {
+    if (::chdir(DirectorioTrabajo.c_str()) != 0) {
+        TrataErrorFichero(ErrorDeCarpeta(errno));
+        return {};
+    }
+    std::FILE *f = std::fopen("TESEL32.INI", "rb");
+    if (f == nullptr) {
+        TrataErrorFichero(ErrorDeFichero(errno));
+        return {};
+    }
+    struct stat datos {};
+    if (::fstat(::fileno(f), &datos) == 0 && S_ISDIR(datos.st_mode)) {
+        // A folder of that name: no file to read, as the system says.
+        std::fclose(f);
+        TrataErrorFichero(ERROR_ACCESO);
+        return {};
+    }
+    std::string contenido(TAMANO_MAXIMO, '\0');
+    contenido.resize(std::fread(contenido.data(), 1, contenido.size(), f));
+    std::fclose(f);
+    return contenido;
+}
+
+// The dialog leads the player to a picture, and a new game is dealt.
+void PideImagenYBaraja() {
+    PulsaBoton(2);
+    CargaImagenDeMuestra();
+    PreparaBitmap();
+}
+
+// No usable file: the settings of a first run, and the dialog.
+void EmpiezaDeCero() {
+    FactorPegado = 50;
+    ColorFondo = 3;
+    Velocidad = 50;
+    Cronometro = 2;
+    Sonido = 1;
+    Pistas = 1;
+    NroPiezas = 64;
+    PiezasPorLado = 8;
+    TipoPieza = 1;
+    PiezasDobles = 0;
+    PartidaValida = FALSO;
+    SegundosCronometro = 0;
+    Zoom = 100;
+    UnidadImagen = UnidadDeCarpeta(DirectorioTrabajo);
+    CarpetaImagen = DirectorioTrabajo;
+    BotonEnSiempre.fill(true);
+    DejaOrigenEnBlanco();
+    PideImagenYBaraja();
+}
+
+// Reloads the picture into Pic_Origin at the zoom; true when it was read.
+// w and h take its size after the zoom. A picture outside the limits is not
+// scaled: it is refused next.
+bool RecargaImagen(bool sinError, int64_t &w, int64_t &h) {
+    FormTeselari &f = teselari;
+    f.Pic_Origin.QuitaImagen();
+    f.Pic_W.QuitaImagen();
+    bool leida = sinError;
+    if (FicheroImagen != " " && !CargaImagen(FicheroImagen, f.Pic_W)) {
+        leida = false;
+    }
+    w = AnchoConZoom(Zoom);
+    h = AltoConZoom(Zoom);
+    if (leida && TamanoPermitido(w, h)) {
+        PasaImagenAOrigen(static_cast<int32_t>(w), static_cast<int32_t>(h));
+    } else {
+        f.Pic_W.CambiaTamano(0, 0);
+    }
+    return leida;
+}
+
+// The lines of a message, each but the last followed by NuevaLinea.
+std::string UneLineas(std::initializer_list<std::string> lineas) {
+    std::string texto;
+    for (const std::string &linea : lineas) {
+        if (&linea != lineas.begin()) {
+            texto += NuevaLinea;
+        }
+        texto += linea;
+    }
+    return texto;
+}
+
+// A number as it is written in a message: with a leading blank.
+std::string ConBlanco(int64_t n) {
+    std::string texto(n < 0 ? "" : " ");
+    texto += std::to_string(n);
+    return texto;
+}
+
+void RechazaImagen(int64_t w, int64_t h) {
+    teselari.MousePointer = PUNTERO_NORMAL;
+    ReproduceSonido(9);
+    std::string tamano = "(";
+    tamano += ConBlanco(w);
+    tamano += " x";
+    tamano += ConBlanco(h);
+    tamano += " pixels ) no está dentro de los límites permitidos:";
+    MuestraMensaje("Imagen no válida",
+                   UneLineas({"El  tamaño  de  la  imagen  que  está  intentando  cargar", tamano,
+                              "", "               Entre 320 y 1.024 pixels de anchura",
+                              "               Entre 240 y 768 pixels de altura"}),
+                   6, 1);
+    DejaOrigenEnBlanco();
+    Zoom = 100;
+    ImagenValida = FALSO;
+    PideImagenYBaraja();
+}
+
+void LamentaImagenPerdida() {
+    teselari.MousePointer = PUNTERO_NORMAL;
+    ReproduceSonido(9);
+    MuestraMensaje("Cargar Imagen",
+                   UneLineas({"No  se  encuentra  la  imagen  utilizada  en  la  última  sesión:",
+                              "", FicheroImagen, "",
+                              "Cargue  desde  el  disco  una  imagen  que  sirva  de  fondo",
+                              "para  el  puzzle."}),
+                   6, 1);
+    DejaOrigenEnBlanco();
+    PideImagenYBaraja();
+}
+
+// The picture is cut again and the pieces go back where they were; a file
+// whose settings or pieces can't be trusted gets a fresh deal of the
+// picture instead.
+void RecuperaPartida(LecturaSesion &l) {
+    SesionRestaurando = VERDADERO;
+    ImagenValida = VERDADERO;
+    if (l.danado) {
+        SesionRestaurando = FALSO;
+        PreparaBitmap();
+        return;
+    }
+    PreparaBitmap();
+    ColocaPiezasEnCasa();
+    if (!LeePiezas(l)) {
+        SesionRestaurando = FALSO;
+    }
+    Barajar();
+    SesionRestaurando = FALSO;
+}
+
+} // namespace
+
+void RestauraSesion() {
+    ErrorFichero = 0;
+    const std::string contenido = AbreFicheroIni();
+    if (ErrorFichero != 0) {
+        EmpiezaDeCero();
+        teselari.MousePointer = PUNTERO_NORMAL;
+        return;
+    }
+    LecturaSesion l;
+    l.lineas = DivideLineas(contenido);
+    LeeAjustes(l);
+    PiezasDobles = TipoPieza >= 2 ? 1 : 0;
+    if (DirectorioTrabajo != DirectorioPrograma()) {
+        UnidadImagen = UnidadDeCarpeta(DirectorioTrabajo);
+        CarpetaImagen = DirectorioTrabajo;
+    }
+    int64_t w = 0, h = 0;
+    const bool leida = RecargaImagen(!l.errorLectura, w, h);
+    if (leida && !TamanoPermitido(w, h)) {
+        RechazaImagen(w, h);
+    } else if (leida) {
+        RecuperaPartida(l);
+    } else {
+        LamentaImagenPerdida();
+    }
+    teselari.MousePointer = PUNTERO_NORMAL;
+}
