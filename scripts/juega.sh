@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Builds Teselari in Release and runs it. For now "it" is the board tool: it
-# cuts a generated sample picture and writes pictures of the board into
-# salida/.
+# Builds Teselari in Release and starts the game. The game keeps its files
+# (TESEL32.INI, TESEL32.HIS) in its own folder, build/release, beside the
+# sample pictures, or in ~/.local/share/teselari/ when that folder can't be
+# written.
 set -euo pipefail
 
 raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -13,9 +14,7 @@ generador=()
 if [[ ! -f build/release/CMakeCache.txt ]] && command -v ninja >/dev/null 2>&1; then
     generador=(-G Ninja)
 fi
-cmake -S . -B build/release "${generador[@]}" -DCMAKE_BUILD_TYPE=Release -DTESELARI_TOOLS=ON
-cmake --build build/release -j2 --target teselari_tablero
+cmake -S . -B build/release "${generador[@]}" -DCMAKE_BUILD_TYPE=Release -DTESELARI_QT=ON
+cmake --build build/release -j2 --target teselari
 
-mkdir -p "$raiz/salida"
-echo "Pictures written:"
-build/release/teselari_tablero --muestra --lado 6 --tipo 1 --fondo 3 --salida "$raiz/salida" "$@"
+exec build/release/teselari

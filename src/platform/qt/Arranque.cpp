@@ -7,8 +7,10 @@
 #include <cstring>
 
 #include "core/PuzzGbl.h"
+#include "core/Sesion.h"
 #include "panels/Cronometro.h"
 #include "panels/Paneles.h"
+#include "platform/qt/CargaImagenQt.h"
 #include "platform/qt/Cursores.h"
 #include "platform/qt/FormMensajes.h"
 #include "platform/qt/Manejadores.h"
@@ -83,30 +85,36 @@ void InstalaServicios() {
     s.Eventos = Eventos;
     s.Termina = Termina;
     PonServiciosPlataforma(s);
+    PonCargadorImagen(CargaImagenQt);
 }
 
 VentanaTeselari &Form_Load() {
     RestauraValoresIniciales();
     InstalaServicios();
 
-    // 1. One second of counting, before any window.
+    // One second of counting, before any window is on the screen.
     CalibraVelocidad();
-    // 2. The hourglass over the whole screen until the end of the load.
+    // The hourglass over the whole screen until the end of the load.
     teselari.MousePointer = PUNTERO_ESPERA;
     AplicaPunteroPantalla(teselari.MousePointer);
-    // 3, 4.
+    // The line end of the messages; the middle speed until the settings
+    // are read.
     NuevaLinea = "\r\n";
     Velocidad = 50;
-    // 9, 10.
+    // The program's folder is the executable's, where the sample
+    // pictures stand; the working folder is that one when it can be written.
+    PonDirectorioPrograma(QCoreApplication::applicationDirPath().toStdString());
+    DirectorioTrabajo = DirectorioPrograma();
+    CompruebaSiCD();
     ModoResolver = FALSO;
     const QRect pantalla = QGuiApplication::primaryScreen()->geometry();
     AnchoPantalla = static_cast<int16_t>(pantalla.width());
     AltoPantalla = static_cast<int16_t>(pantalla.height());
-    // 12. The five regions exist for the whole run; they start empty.
+    // The five regions exist for the whole run; they start empty.
     for (Region *r : {&RegionAnterior, &RegionNueva, &RegionRecorte, &RegionPieza, &RegionSuelta}) {
         SetRectRgn(*r, 0, 0, 0, 0);
     }
-    // 13, 14.
+    // The constant tables; no button pressed; the pictures the forms carry.
     LlenaTablas();
     BotonPulsado.fill(FALSO);
     CargaRecurso(RutaTiraBotones(), teselari.Pic_BmpBoton);
@@ -115,19 +123,23 @@ VentanaTeselari &Form_Load() {
     ventana = new VentanaTeselari();
     ConectaManejadores(*ventana);
 
-    // 16, 17.
+    // The saved game: settings, picture and pieces, dealt on the surfaces
+    // while the window is still hidden; messages may already show here.
+    RestauraSesion();
+
+    // The always-visible panel and the tooltips.
     DibujaBotonesSiempre();
     ActualizaPistas();
-    // 18. The window covers the screen.
+    // The window covers the screen.
     ventana->MuestraPantallaCompleta();
-    // 19, 20. The chronometer left of the always-visible panel.
+    // The chronometer left of the always-visible panel.
     Superficie &cronome = teselari.Pic_Cronome;
     cronome.Move(teselari.Pic_BotonesSiempre.Left - cronome.Ancho(), 0);
     cronome.Visible = Cronometro < 2;
-    // 21. The clock counts from the time restored; Timer1 ticks from now on.
+    // The clock counts from the time restored; Timer1 ticks from now on.
     ArrancaCronometro();
     ventana->Timer1.start();
-    // 23.
+    // The default pointer again.
     teselari.MousePointer = PUNTERO_NORMAL;
     ventana->Sincroniza();
     return *ventana;

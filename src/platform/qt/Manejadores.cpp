@@ -30,13 +30,16 @@ VistaSuperficie::Manejador Llama(VentanaTeselari &v, ManejadorIndice m, int16_t 
 
 void ConectaManejadores(VentanaTeselari &v) {
     for (int16_t i = 1; i <= 11; ++i) {
+        v.Pic_BotonSiempre[i]->AlPulsar = Llama(v, Pic_BotonSiempre_MouseDown, i);
         v.Pic_BotonSiempre[i]->AlMover = Llama(v, Pic_BotonSiempre_MouseMove, i);
+        v.Pic_BotonDerecho[i]->AlPulsar = Llama(v, Pic_BotonDerecho_MouseDown, i);
         v.Pic_BotonDerecho[i]->AlMover = Llama(v, Pic_BotonDerecho_MouseMove, i);
     }
     v.Pic_BotonesSiempre->AlMover = Llama(v, Pic_BotonesSiempre_MouseMove);
     v.Pic_BotonesDerecho->AlMover = Llama(v, Pic_BotonesDerecho_MouseMove);
     v.Pic_BSInfo->AlMover = Llama(v, Pic_BSInfo_MouseMove);
 
+    v.Pic_Trabajo->AlPulsar = Llama(v, Pic_Trabajo_MouseDown);
     v.Pic_Trabajo->AlMover = Llama(v, Pic_Trabajo_MouseMove);
     v.Pic_Trabajo->AlSoltar = Llama(v, Pic_Trabajo_MouseUp);
 
