@@ -290,6 +290,7 @@ TEST_F(Motor, RestauraBitmapMuestraLaImagenLimpia) {
     PreparaBitmap();
     RestauraBitmap();
     EXPECT_EQ(PuzzleCompleto, VERDADERO);
+    EXPECT_EQ(teselari.Pic_BotonDerecho[9].MousePointer, 12);
     for (int32_t y = 0; y < AltoPuzzle; y += 7) {
         for (int32_t x = 0; x < AnchoPuzzle; x += 7) {
             ASSERT_EQ(teselari.Pic_Trabajo.Point(x, y), teselari.Pic_Origin.Point(x, y));

@@ -6,6 +6,7 @@
 #include "panels/Cronometro.h"
 #include "platform/raster/Raster.h"
 #include "tablero_comun.h"
+#include <sstream>
 
 using namespace PuzzGbl;
 
@@ -90,7 +91,9 @@ TEST_P(Atraccion, LaPiezaVaASuSitioDentroDelAlcance) {
 
 INSTANTIATE_TEST_SUITE_P(Factores, Atraccion, ::testing::ValuesIn(ALCANCES),
                          [](const ::testing::TestParamInfo<Alcance> &i) {
-                             return "f" + std::to_string(i.param.factor);
+                             std::ostringstream nombre;
+                             nombre << 'f' << i.param.factor;
+                             return nombre.str();
                          });
 
 class Soltar : public Tablero, public ::testing::WithParamInterface<int16_t> {};

@@ -5,6 +5,7 @@
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "platform/raster/Raster.h"
+#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 
@@ -43,6 +44,8 @@ void RestauraBitmap() {
     PuzzleCompleto = VERDADERO;
     BitBlt(f.Pic_Imagen, 0, 0, AnchoPuzzle, AltoPuzzle, f.Pic_Origin, 0, 0, SRCCOPY);
     Pic_Trabajo_Paint();
+    // A finished puzzle can't be solved: the solver's button says so.
+    f.Pic_BotonDerecho[9].MousePointer = PUNTERO_PROHIBIDO;
 }
 
 void RecuperaContornos() {
