@@ -1,29 +1,21 @@
 #include "Iconos.h"
 
+#include "panels/SemillasBotones.h"
+
 #include <QPainter>
 #include <array>
 
 std::vector<QPoint> SemillasBoton(int i) {
-    static const std::array<std::vector<QPoint>, 14> tabla = {{
-        {},
-        {{51, 51}},
-        {{43, 51}, {44, 17}},
-        {{50, 50}},
-        {{50, 50}, {19, 19}, {22, 32}},
-        {{49, 46}},
-        {{51, 51}, {30, 22}, {26, 16}},
-        {{21, 51}, {35, 51}, {51, 51}},
-        {{23, 23}, {49, 40}, {33, 51}},
-        {{51, 51}},
-        {{51, 51}},
-        {{14, 37}},
-        {},
-        {},
-    }};
     if (i < 1 || i > NumeroIconos) {
         return {};
     }
-    return tabla[i];
+    std::vector<QPoint> puntos;
+    if (i < static_cast<int>(SemillasSombra().size())) {
+        for (const auto &[x, y] : SemillasSombra()[i]) {
+            puntos.emplace_back(x, y);
+        }
+    }
+    return puntos;
 }
 
 namespace {
