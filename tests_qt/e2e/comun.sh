@@ -1,0 +1,111 @@
+# Shared by the end-to-end runs: a private X display under Xvfb, the program
+# copied into a temporary folder of its own with the sample pictures, the
+# screenshot on failure, and the clean-up at the end. Sourced, not run.
+#
+# The caller sets `programa` (the built executable) and `salida` (a folder
+# for screenshots and the game's output) before sourcing. Exits 77 (skipped)
+# when Xvfb, xdotool or ImageMagick is missing.
+
+ANCHO=1024
+ALTO=768
+for herramienta in Xvfb xdotool import convert; do
+    if ! command -v "$herramienta" >/dev/null 2>&1; then
+        echo "skipped: $herramienta is not installed"
+        exit 77
+    fi
+done
+
+carpeta=$(mktemp -d)
+mkdir -p "$salida"
+pid_x=""
+pid_juego=""
+
+termina() {
+    [[ -n "$pid_juego" ]] && kill "$pid_juego" 2>/dev/null && wait "$pid_juego" 2>/dev/null
+    [[ -n "$pid_x" ]] && kill "$pid_x" 2>/dev/null && wait "$pid_x" 2>/dev/null
+    rm -rf "$carpeta"
+}
+trap termina EXIT
+
+falla() {
+    echo "FAILED: $*"
+    import -display "$DISPLAY" -window root "$salida/fallo.png" 2>/dev/null &&
+        echo "screenshot: $salida/fallo.png"
+    exit 1
+}
+
+# A free display number, and the server on it.
+arranca_pantalla() {
+    local pantalla=99
+    while [[ -e /tmp/.X11-unix/X$pantalla || -e /tmp/.X$pantalla-lock ]]; do
+        pantalla=$((pantalla + 1))
+    done
+    export DISPLAY=:$pantalla
+    Xvfb "$DISPLAY" -screen 0 ${ANCHO}x${ALTO}x24 -nolisten tcp >/dev/null 2>&1 &
+    pid_x=$!
+    for _ in $(seq 50); do
+        xdotool getdisplaygeometry >/dev/null 2>&1 && break
+        sleep 0.1
+    done
+    xdotool getdisplaygeometry >/dev/null 2>&1 || falla "Xvfb did not start"
+}
+
+# The program and the sample pictures into the temporary folder, which is
+# the program's own folder for the run.
+copia_programa() {
+    cp "$programa" "$carpeta/teselari"
+    local origen muestra
+    origen=$(dirname "$programa")
+    for muestra in "$origen"/*.BMP "$origen"/*.JPG; do
+        [[ -e "$muestra" ]] && cp "$muestra" "$carpeta/"
+    done
+}
+
+# Starts the game in its folder, its output kept in $salida/teselari.log.
+arranca_juego() {
+    export XDG_DATA_HOME="$carpeta/datos"
+    # In a build with the sanitizers the leak check at the end leaves out
+    # what the system's libraries keep until exit.
+    export LSAN_OPTIONS="suppressions=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/lsan.supp${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
+    export QT_QPA_PLATFORM=xcb
+    (cd "$carpeta" && exec ./teselari) >"$salida/teselari.log" 2>&1 &
+    pid_juego=$!
+}
+
+# Waits for the main window; messages that come before it (a first start)
+# are closed by a key every two seconds. Leaves its id in `ventana`.
+espera_ventana() {
+    ventana=""
+    local paso
+    for paso in $(seq 200); do
+        ventana=$(xdotool search --onlyvisible --name '^Teselari$' 2>/dev/null | head -1)
+        [[ -n "$ventana" ]] && break
+        kill -0 "$pid_juego" 2>/dev/null || falla "the game ended on its own: $(cat "$salida/teselari.log")"
+        if ((paso % 20 == 0)); then
+            import -window root "$salida/mensaje.png" 2>/dev/null
+            xdotool key space
+        fi
+        sleep 0.1
+    done
+    [[ -n "$ventana" ]] || falla "no window appeared"
+}
+
+# Presses command 11, "Salir de la aplicación", the last button of the
+# always-visible panel, answers its question with a key and waits for the
+# program to end by itself with status 0.
+sale_con_boton_11() {
+    xdotool mousemove $((ANCHO - 49)) 612 click 1
+    sleep 1
+    import -window root "$salida/salir.png"
+    xdotool key Escape
+    for _ in $(seq 100); do
+        kill -0 "$pid_juego" 2>/dev/null || break
+        sleep 0.1
+    done
+    kill -0 "$pid_juego" 2>/dev/null && falla "the game did not end after the exit question"
+    wait "$pid_juego"
+    local estado=$?
+    pid_juego=""
+    [[ $estado -eq 0 ]] || falla "the game ended with status $estado"
+    [[ -s "$carpeta/TESEL32.INI" ]] || falla "no TESEL32.INI was written at the exit"
+}
