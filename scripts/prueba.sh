@@ -54,8 +54,13 @@ elif ! CXX=clang++ configura build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESE
     echo "the fuzz target could not be built with this clang: the fuzzing step is skipped"
 else
     corpus=$(mktemp -d)
-    if ! build/fuzz/teselari_fuzz_sesion -max_total_time=30 -artifact_prefix="$raiz/build/fuzz/" \
-        "$corpus" "$raiz/tests/fuzz/semillas"; then
+    registro=build/fuzz/fuzz.log
+    if build/fuzz/teselari_fuzz_sesion -max_total_time=30 -artifact_prefix="$raiz/build/fuzz/" \
+        "$corpus" "$raiz/tests/fuzz/semillas" >"$registro" 2>&1; then
+        grep -E '^Done ' "$registro" || true
+    else
+        tail -n 60 "$registro" >&2
+        echo "the fuzzer found a crash: the input is in build/fuzz/, the log in $registro" >&2
         fallos+=(fuzz)
     fi
     rm -rf "$corpus"

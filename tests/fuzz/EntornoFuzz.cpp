@@ -35,6 +35,11 @@ void Marca(const std::string &ruta) {
     std::ofstream(ruta) << "picture\n";
 }
 
+void BorraCarpeta() {
+    std::error_code ec;
+    std::filesystem::remove_all(PreparaEntorno(), ec);
+}
+
 } // namespace
 
 const std::string &PreparaEntorno() {
@@ -51,6 +56,9 @@ const std::string &PreparaEntorno() {
         PonCargadorImagen(CargadorFijo);
         return c;
     }();
+    // Registered once the name is built, so it is removed before the name.
+    static const bool borrable = std::atexit(BorraCarpeta) == 0;
+    (void)borrable;
     return carpeta;
 }
 

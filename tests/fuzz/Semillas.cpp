@@ -73,7 +73,6 @@ int main(int argc, char *argv[]) {
         }
         ++n;
     }
-    std::filesystem::remove_all(PreparaEntorno());
     std::printf("%d seeds written in %s\n", n, carpeta.c_str());
     return 0;
 }
