@@ -56,7 +56,7 @@ else
     corpus=$(mktemp -d)
     registro=build/fuzz/fuzz.log
     if build/fuzz/teselari_fuzz_sesion -max_total_time=30 -artifact_prefix="$raiz/build/fuzz/" \
-        "$corpus" "$raiz/tests/fuzz/semillas" >"$registro" 2>&1; then
+        -dict="$raiz/tests/fuzz/sesion.dict" "$corpus" "$raiz/tests/fuzz/semillas" >"$registro" 2>&1; then
         grep -E '^Done ' "$registro" || true
     else
         tail -n 60 "$registro" >&2
