@@ -66,6 +66,20 @@ void PreparaPartida(int16_t n, int16_t tipo, Reparto reparto) {
     }
 }
 
+void ApilaPiezas() {
+    using namespace PuzzGbl;
+    const int32_t x = (teselari.Pic_Trabajo.Ancho() - AnchoPieza) / 2;
+    const int32_t y = (teselari.Pic_Trabajo.Alto() - AltoPieza) / 2;
+    for (size_t i = 1; i < Piezas.size(); ++i) {
+        Piezas[i].X = x;
+        Piezas[i].Y = y;
+    }
+    const int16_t antes = SesionRestaurando;
+    SesionRestaurando = VERDADERO;
+    Barajar();
+    SesionRestaurando = antes;
+}
+
 int16_t PosicionDePieza(int16_t k) {
     const auto &orden = PuzzGbl::OrdenPiezas;
     for (size_t i = 1; i < orden.size(); ++i) {

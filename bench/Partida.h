@@ -27,6 +27,10 @@ enum class Reparto {
 // picture, PreparaBitmap, then the pieces as `reparto` says.
 void PreparaPartida(int16_t n, int16_t tipo, Reparto reparto);
 
+// Every piece at one place, the middle of the work area, the order kept;
+// the pile painted again (restore mode) so the composite matches.
+void ApilaPiezas();
+
 // The position in OrdenPiezas of the piece numbered k (0 if absent).
 int16_t PosicionDePieza(int16_t k);
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds Teselari twice, in Release and with AddressSanitizer and
-# UndefinedBehaviorSanitizer, and runs every test in both builds.
+# UndefinedBehaviorSanitizer, and runs every test in both builds; then fuzzes
+# the saved-game reader for a short while when clang is installed.
 set -euo pipefail
 
 raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -39,6 +40,31 @@ echo "== Sanitizer tests"
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     ctest --test-dir build/sanitizers --output-on-failure --no-tests=error -j2 ||
     fallos+=(sanitizers)
+
+# The saved-game reader under libFuzzer for 30 seconds, from the seed
+# corpus, when clang is there. Only a crash the fuzzer reports (or an
+# invariant broken, which aborts) counts as a failure; a missing compiler or
+# runtime only skips the step.
+echo "== Fuzzing the saved game (30 s)"
+if ! command -v clang++ >/dev/null 2>&1; then
+    echo "clang++ not installed: the fuzzing step is skipped"
+elif ! CXX=clang++ configura build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESELARI_FUZZ=ON \
+    -DTESELARI_TESTS=OFF -DTESELARI_BENCH=OFF -DTESELARI_TOOLS=OFF -DTESELARI_QT=OFF ||
+    ! cmake --build build/fuzz -j2 --target teselari_fuzz_sesion; then
+    echo "the fuzz target could not be built with this clang: the fuzzing step is skipped"
+else
+    corpus=$(mktemp -d)
+    registro=build/fuzz/fuzz.log
+    if build/fuzz/teselari_fuzz_sesion -max_total_time=30 -artifact_prefix="$raiz/build/fuzz/" \
+        -dict="$raiz/tests/fuzz/sesion.dict" "$corpus" "$raiz/tests/fuzz/semillas" >"$registro" 2>&1; then
+        grep -E '^Done ' "$registro" || true
+    else
+        tail -n 60 "$registro" >&2
+        echo "the fuzzer found a crash: the input is in build/fuzz/, the log in $registro" >&2
+        fallos+=(fuzz)
+    fi
+    rm -rf "$corpus"
+fi
 
 if [[ ${#fallos[@]} -ne 0 ]]; then
     echo "== Tests failed in: ${fallos[*]}" >&2

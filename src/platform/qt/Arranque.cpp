@@ -28,6 +28,8 @@ namespace {
 
 VentanaTeselari *ventana = nullptr;
 bool terminado = false;
+double vueltasFijas = 0.0;
+QString carpetaFija;
 
 void Eventos() {
     QCoreApplication::processEvents();
@@ -70,6 +72,11 @@ bool CargaRecurso(const QString &ruta, Superficie &s) {
     return true;
 }
 
+void PonArranqueMedido(double vueltasPorSegundo, const QString &carpetaPrograma) {
+    vueltasFijas = vueltasPorSegundo;
+    carpetaFija = carpetaPrograma;
+}
+
 bool ProgramaTerminado() {
     return terminado;
 }
@@ -93,7 +100,11 @@ VentanaTeselari &Form_Load() {
     InstalaServicios();
 
     // One second of counting, before any window is on the screen.
-    CalibraVelocidad();
+    if (vueltasFijas > 0.0) {
+        VueltasPorSegundo = vueltasFijas;
+    } else {
+        CalibraVelocidad();
+    }
     // The hourglass over the whole screen until the end of the load.
     teselari.MousePointer = PUNTERO_ESPERA;
     AplicaPunteroPantalla(teselari.MousePointer);
@@ -103,7 +114,9 @@ VentanaTeselari &Form_Load() {
     Velocidad = 50;
     // The program's folder is the executable's, where the sample
     // pictures stand; the working folder is that one when it can be written.
-    PonDirectorioPrograma(QCoreApplication::applicationDirPath().toStdString());
+    PonDirectorioPrograma(
+        (carpetaFija.isEmpty() ? QCoreApplication::applicationDirPath() : carpetaFija)
+            .toStdString());
     DirectorioTrabajo = DirectorioPrograma();
     CompruebaSiCD();
     ModoResolver = FALSO;

@@ -16,6 +16,11 @@ void InstalaServicios();
 // which lives for the whole run.
 VentanaTeselari &Form_Load();
 
+// For a run that measures the load itself: the calibration's count given
+// beforehand instead of the second of counting, and the program's folder
+// (empty: the executable's). A count of 0 brings the counting back.
+void PonArranqueMedido(double vueltasPorSegundo, const QString &carpetaPrograma);
+
 // A picture of the resources into a surface of the form, at its top left
 // corner and within the surface's size: the strip of button images into
 // Pic_BmpBoton, the face of the chronometer into Pic_Cronome. False when
