@@ -39,7 +39,7 @@ constexpr std::array<Tema, 21> temas{{
 
 const Tema *BuscaTema(int16_t numero) {
     for (const Tema &t : temas) {
-        if (t.destino != nullptr && t.numero == numero) {
+        if (t.numero == numero) {
             return &t;
         }
     }
