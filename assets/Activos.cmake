@@ -1,7 +1,8 @@
 # The game's assets, for the top CMakeLists.txt to include().
 #
 #   TESELARI_ACTIVOS_QRC      the Qt resource file with the strip, the
-#                             chronometer face, the cursors and the clips:
+#                             chronometer face, the cursors, the clips and
+#                             the help book (":/teselari/ayuda/indice.html"...):
 #                             add it to the sources of the executable (with
 #                             AUTORCC, or qt_add_resources). Resource paths
 #                             are ":/teselari/botones.png", ":/teselari/
