@@ -62,7 +62,3 @@ std::string DestinoAyuda(int16_t tema) {
     const Tema *t = BuscaTema(tema);
     return t != nullptr ? t->destino : temas[0].destino;
 }
-
-bool TemaConocido(int16_t tema) {
-    return BuscaTema(tema) != nullptr;
-}

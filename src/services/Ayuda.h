@@ -46,6 +46,3 @@ void PonMostradorAyuda(MostradorAyuda mostrador);
 // e.g. "personalizar.html#t1231". The contents page for 0 and for any
 // number the book doesn't know.
 std::string DestinoAyuda(int16_t tema);
-
-// Whether the book has a page for the number (0 included).
-bool TemaConocido(int16_t tema);
