@@ -179,10 +179,12 @@ TEST_F(Ventana, AtrasAdelanteContenidoYCerrar) {
     EXPECT_EQ(v.Texto->source(), DireccionTema(0));
     v.Bot_Cerrar->click();
     EXPECT_FALSE(v.isVisible());
-    // Opened again, it is the same window, at the new topic.
+    // Opened again, it is the same window, at the new topic; Escape closes it.
     MuestraAyuda(TemasAyuda::Historico);
     EXPECT_EQ(&Abierta(), &v);
     EXPECT_TRUE(v.isVisible());
+    QTest::keyClick(v.Texto, Qt::Key_Escape);
+    EXPECT_FALSE(v.isVisible());
 }
 
 // From a modal form the window becomes the form's own, so that the form

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -85,6 +86,14 @@ void VentanaAyuda::MuestraTema(int16_t tema) {
     show();
     raise();
     activateWindow();
+}
+
+void VentanaAyuda::keyPressEvent(QKeyEvent *evento) {
+    if (evento->key() == Qt::Key_Escape) {
+        close();
+    } else {
+        QWidget::keyPressEvent(evento);
+    }
 }
 
 void MuestraVentanaAyuda(int16_t tema) {

@@ -2,9 +2,9 @@
 //
 // The book is a set of Spanish HTML pages among the resources
 // (":/teselari/ayuda/"), shown in a QTextBrowser with the buttons
-// "Contenido", "Atrás", "Adelante" and "Cerrar". It isn't modal: the game
-// goes on behind it. A topic number opens its page at its anchor; 0 and an
-// unknown number open the contents.
+// "Contenido", "Atrás", "Adelante" and "Cerrar" (also the Escape key). It
+// isn't modal: the game goes on behind it. A topic number opens its page at
+// its anchor; 0 and an unknown number open the contents.
 #pragma once
 
 #include <QWidget>
@@ -26,6 +26,9 @@ class VentanaAyuda : public QWidget {
     QPushButton *Bot_Atras = nullptr;
     QPushButton *Bot_Adelante = nullptr;
     QPushButton *Bot_Cerrar = nullptr;
+
+  protected:
+    void keyPressEvent(QKeyEvent *evento) override;
 };
 
 // The address of a topic in the resources, e.g.
