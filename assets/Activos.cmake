@@ -1,10 +1,11 @@
 # The game's assets, for the top CMakeLists.txt to include().
 #
-#   TESELARI_ACTIVOS_QRC      the Qt resource file with the strip, the
-#                             chronometer face, the cursors and the clips:
+#   TESELARI_ACTIVOS_QRC      the Qt resource file with the two strips, the
+#                             chronometer face, the cursors, the clips and
+#                             the help book (":/teselari/ayuda/indice.html"...):
 #                             add it to the sources of the executable (with
 #                             AUTORCC, or qt_add_resources). Resource paths
-#                             are ":/teselari/botones.png", ":/teselari/
+#                             are ":/teselari/botones.png", ":/teselari/varios.png", ":/teselari/
 #                             cursores/manoindice.png", ":/teselari/sonidos/1.wav"...
 #   TESELARI_MUESTRAS         the sample pictures (123.BMP ... TRANVIA.JPG).
 #   teselari_copia_muestras(target)

@@ -2,18 +2,21 @@
 // 10 history book. The clock stops while the player is away from the board
 // and starts again afterwards, whatever state it had.
 //
-// The help window, the dialog AbrirFic and the book Historic are not part
-// of the game yet: until they come, these three buttons only go down and
-// up again, with the clock stopped and restarted, and nothing else happens.
+// The help window isn't modal: the clock runs again as soon as it is up.
+// The dialog AbrirFic and the book Historic are not part of the game yet:
+// until they come, their buttons only go down and up again, with the clock
+// stopped and restarted, and nothing else happens.
 #include "core/PuzzGbl.h"
 #include "panels/Cronometro.h"
 #include "panels/Ordenes.h"
+#include "services/Ayuda.h"
 
 using namespace PuzzGbl;
 
 void AbreAyuda() {
     MarcaBoton(1, true);
     ParaCronometro();
+    MuestraAyuda(TemasAyuda::Contenido); // the book opens on its contents
     ArrancaCronometro();
     MarcaBoton(1, false);
 }

@@ -8,6 +8,7 @@
 #include "Iconos.h"
 #include "Muestras.h"
 #include "Sonidos.h"
+#include "Varios.h"
 
 namespace {
 
@@ -25,6 +26,7 @@ bool EscribeActivos(const QString &carpeta, bool conMuestras, std::ostream &info
     bool bien = raiz.mkpath("cursores") && raiz.mkpath("sonidos") && raiz.mkpath("muestras");
     bien = Guarda(GeneraTiraBotones(), raiz.filePath("botones.png"), "PNG", -1, informe) && bien;
     bien = Guarda(GeneraCronometro(), raiz.filePath("cronometro.png"), "PNG", -1, informe) && bien;
+    bien = Guarda(GeneraTiraVarios(), raiz.filePath("varios.png"), "PNG", -1, informe) && bien;
     const struct {
         const char *nombre;
         QImage imagen;

@@ -4,6 +4,7 @@
 #include <QString>
 #include <ostream>
 
-// Writes the strip, the chronometer, the cursors, the clips and, when
-// `conMuestras`, the sample pictures under `carpeta`. True when all went well.
+// Writes the button strip, the dialog's strip, the chronometer, the cursors,
+// the clips and, when `conMuestras`, the sample pictures under `carpeta`.
+// True when all went well.
 bool EscribeActivos(const QString &carpeta, bool conMuestras, std::ostream &informe);

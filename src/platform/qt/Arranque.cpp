@@ -16,8 +16,10 @@
 #include "platform/qt/Manejadores.h"
 #include "platform/qt/ReproductorSonidos.h"
 #include "platform/qt/RotuladorQt.h"
+#include "platform/qt/VentanaAyuda.h"
 #include "platform/qt/VentanaTeselari.h"
 #include "platform/raster/Region.h"
+#include "services/Ayuda.h"
 #include "services/Esperas.h"
 #include "services/Plataforma.h"
 #include "services/Sonidos.h"
@@ -93,6 +95,7 @@ void InstalaServicios() {
     s.Termina = Termina;
     PonServiciosPlataforma(s);
     PonCargadorImagen(CargaImagenQt);
+    PonMostradorAyuda(MuestraVentanaAyuda);
 }
 
 VentanaTeselari &Form_Load() {

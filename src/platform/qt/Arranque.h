@@ -8,7 +8,8 @@ class Superficie;
 class VentanaTeselari;
 
 // Installs the desktop's services for the game: the message dialog, the
-// sound player, the event loop, the end of the program and the text.
+// sound player, the event loop, the end of the program, the text and the
+// help window.
 void InstalaServicios();
 
 // Form_Load of `teselari`: calibration, tables, working folder, the saved

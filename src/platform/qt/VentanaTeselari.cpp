@@ -1,5 +1,7 @@
 #include "platform/qt/VentanaTeselari.h"
 
+#include <QApplication>
+#include <QCursor>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -8,6 +10,7 @@
 #include "core/PuzzGbl.h"
 #include "platform/qt/Cursores.h"
 #include "platform/qt/VistaSuperficie.h"
+#include "services/Ayuda.h"
 
 using namespace PuzzGbl;
 
@@ -101,8 +104,27 @@ void VentanaTeselari::MuestraPantallaCompleta() {
     activateWindow();
 }
 
+int16_t VentanaTeselari::TemaAyuda(const QWidget *control) const {
+    for (const QWidget *w = control; w != nullptr && w != this; w = w->parentWidget()) {
+        if (w == Pic_BSInfo) {
+            return TemasAyuda::PiezasColocadas;
+        }
+        if (w == Pic_BotonesSiempre) {
+            return TemasAyuda::BotonesSiempre;
+        }
+        if (w == Pic_Cronome) {
+            return TemasAyuda::PanelCronometro;
+        }
+    }
+    return TemasAyuda::Tablero;
+}
+
 void VentanaTeselari::keyPressEvent(QKeyEvent *evento) {
-    if (AlPulsarTecla) {
+    if (evento->key() == Qt::Key_F1) {
+        // The controls take no focus: the one under the mouse tells the topic.
+        const int16_t tema = TemaAyuda(QApplication::widgetAt(QCursor::pos()));
+        Atiende([tema] { MuestraAyuda(tema); });
+    } else if (AlPulsarTecla) {
         const int tecla = evento->key();
         Atiende([&] { AlPulsarTecla(tecla); });
     } else {

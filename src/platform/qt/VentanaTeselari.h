@@ -50,8 +50,14 @@ class VentanaTeselari : public QWidget {
     // Ticks every second while the clock runs (Timer1_Timer).
     QTimer Timer1;
 
-    // Key presses of the form, for the handlers that want them.
+    // Key presses of the form, for the handlers that want them. F1 doesn't
+    // reach them: it opens the help book.
     std::function<void(int tecla)> AlPulsarTecla;
+
+    // The help number of a control of the form, for F1: the count of placed
+    // pieces 1290, the always-visible panel and its buttons 1210, the
+    // chronometer 1280, the form, the board and everything else 1120.
+    int16_t TemaAyuda(const QWidget *control) const;
 
   protected:
     void keyPressEvent(QKeyEvent *evento) override;
