@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Muestra{"cuartos_rle8.bmp", 50, 34, 0},
                       Muestra{"cuartos_rle4.bmp", 46, 30, 0}, Muestra{"cuartos.rle", 52, 40, 0},
                       Muestra{"cuartos.jpg", 64, 48, 40}, Muestra{"cuartos.wmf", 80, 60, 8},
-                      Muestra{"cuartos.emf", 72, 54, 8}),
+                      Muestra{"poligonos.wmf", 88, 66, 8}, Muestra{"cuartos.emf", 72, 54, 8}),
     [](const auto &info) {
         std::string n = info.param.nombre;
         for (char &c : n) {

@@ -23,7 +23,8 @@ enum class EstadoCarga : int8_t {
     EnBlanco,    // there, but it can't be decoded or is cut short
     Inexistente, // no such file, or it can't be opened
     Desmesurada, // states a size that no zoom brings into the limits, or
-                 // more pixels than the game holds: it is not decoded
+                 // more pixels than the game holds: it is not decoded, and
+                 // the size rules refuse it whatever zoom they compute
 };
 
 // The outcome of a load. Ancho and Alto are the W and H the size rules

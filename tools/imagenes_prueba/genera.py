@@ -98,10 +98,12 @@ def colorref(rgb):
     return r | g << 8 | b << 16
 
 
-def wmf(ancho, alto):
+def wmf(ancho, alto, poligonos=False):
     """Placeable metafile in logical units of 1/1440 inch (twips) drawing
     three filled rectangles with a null pen; the bottom right quarter stays
-    the white background. At 96 dpi it measures ancho x alto pixels."""
+    the white background. At 96 dpi it measures ancho x alto pixels. With
+    poligonos the quarters are filled polygons, and a dashed red line runs
+    inside the red one."""
     ext_x, ext_y = ancho * 15, alto * 15
     registros = []
 
@@ -120,8 +122,18 @@ def wmf(ancho, alto):
         c = colorref(color)
         registro(0x02FC, 0, c & 0xFFFF, c >> 16, 0)  # CREATEBRUSHINDIRECT -> slot 1
         registro(0x012D, 1)
-        registro(0x041B, aba, der, arr, izq)         # RECTANGLE bottom, right, top, left
+        if poligonos:
+            registro(0x0324, 4, izq, arr, der, arr, der, aba, izq, aba)  # POLYGON
+        else:
+            registro(0x041B, aba, der, arr, izq)     # RECTANGLE bottom, right, top, left
         registro(0x01F0, 1)                          # DELETEOBJECT 1
+    if poligonos:
+        c = colorref(ROJO)
+        registro(0x01F0, 0)
+        registro(0x02FA, 1, 15, 0, c & 0xFFFF, c >> 16)  # CREATEPENINDIRECT dashed -> slot 0
+        registro(0x012D, 0)
+        registro(0x0325, 3, medio_x // 4, medio_y // 4, medio_x * 3 // 4, medio_y // 4,
+                 medio_x * 3 // 4, medio_y * 3 // 4)     # POLYLINE
     registro(0x0000)                                 # EOF
     cuerpo = b"".join(registros)
     palabras = 9 + len(cuerpo) // 2
@@ -178,6 +190,7 @@ def main():
         "cuartos_rle4.bmp": rle4(46, 30),
         "cuartos.rle": rle8(52, 40),
         "cuartos.wmf": wmf(80, 60),
+        "poligonos.wmf": wmf(88, 66, poligonos=True),
         "cuartos.emf": emf(72, 54),
     }
     for nombre, datos in ficheros.items():

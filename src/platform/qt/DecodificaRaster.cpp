@@ -117,7 +117,7 @@ CabeceraBmp LeeCabeceraBmp(const QByteArray &c) {
 
 // The bytes a BMP of this header needs, or -1 when it can't tell.
 int64_t BytesNecesariosBmp(const CabeceraBmp &b) {
-    if (!b.conocida) {
+    if (!b.conocida || b.ancho <= 0 || TamanoDesmesurado(b.ancho, b.alto)) {
         return -1;
     }
     if (b.compresion == 0 || b.compresion == 3 || b.compresion == 6) {

@@ -7,7 +7,9 @@
 
 #include <libwmf/api.h>
 #include <libwmf/gd.h>
+#include <libwmf/gd/gd.h>
 
+#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -46,9 +48,23 @@ QRgb SobreBlanco(int pixel) {
                 static_cast<int>(canal(p & 0xFF)));
 }
 
-QImage CopiaGd(void *imagenGd, unsigned int ancho, unsigned int alto) {
+// The picture the gd device leaves behind is the caller's, and the library
+// exports no way to free it: its parts are freed here by the layout of the
+// header it installs. The brush it points to is the library's own.
+struct LiberaGd {
+    void operator()(gdImage *im) const {
+        std::free(im->_tpixels);
+        std::free(im->tpixels);
+        std::free(im->polyInts);
+        std::free(im->style);
+        std::free(im);
+    }
+};
+
+QImage CopiaGd(gdImage *imagenGd, unsigned int ancho, unsigned int alto) {
     const int *pixeles = wmf_gd_image_pixels(imagenGd);
-    if (pixeles == nullptr) {
+    if (pixeles == nullptr || imagenGd->trueColor == 0 || imagenGd->sx != static_cast<int>(ancho) ||
+        imagenGd->sy != static_cast<int>(alto)) {
         return {};
     }
     QImage imagen(static_cast<int>(ancho), static_cast<int>(alto), QImage::Format_RGB32);
@@ -94,11 +110,14 @@ Decodificacion DecodificaWmf(const QByteArray &datos) {
     gd->width = ancho;
     gd->height = alto;
     gd->bbox = caja;
-    if (wmf_play(api.get(), 0, &caja) != wmf_E_None || gd->gd_image == nullptr) {
+    const wmf_error_t error = wmf_play(api.get(), 0, &caja);
+    const std::unique_ptr<gdImage, LiberaGd> imagenGd(static_cast<gdImage *>(gd->gd_image));
+    gd->gd_image = nullptr;
+    if (error != wmf_E_None || !imagenGd) {
         return {};
     }
     Decodificacion d;
-    d.Imagen = CopiaGd(gd->gd_image, ancho, alto);
+    d.Imagen = CopiaGd(imagenGd.get(), ancho, alto);
     if (!d.Imagen.isNull()) {
         d.Estado = EstadoCarga::Leida;
         d.Ancho = ancho;
