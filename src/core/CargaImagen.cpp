@@ -22,6 +22,7 @@ CargaDeImagen CargaImagen(const std::string &fichero, Superficie &destino) {
 }
 
 void DejaImagenEnBlanco(Superficie &destino) {
+    destino.QuitaImagen();
     destino.CambiaTamano(320, 240);
     for (int32_t y = 0; y < destino.Alto(); ++y) {
         std::fill_n(destino.Fila(y), destino.Ancho(), APixel(COLOR_BLANCO));
