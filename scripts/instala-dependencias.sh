@@ -13,6 +13,11 @@ PAQUETES=(
     libbenchmark-dev
     qt6-base-dev
     qt6-multimedia-dev
+    qt6-svg-dev
+    # The metafile decoders; libwmf reads no file without the URW fonts.
+    libwmf-dev
+    fonts-urw-base35
+    libemf2svg-dev
     libgl-dev
     fonts-dejavu-core
     clang-format

@@ -37,16 +37,24 @@ inline void SonidoDePrueba(int16_t clip) {
 }
 
 // The pictures of these tests are small text files "IMAGEN W H": the loader
-// paints the generated picture of that size. Anything else can't be read.
-inline bool CargadorDePrueba(const std::string &fichero, Superficie &destino) {
+// paints the generated picture of that size. "ENORME W H" states a size too
+// large to decode. A missing file is Inexistente; anything else can't be
+// decoded.
+inline CargaDeImagen CargadorDePrueba(const std::string &fichero, Superficie &destino) {
     std::ifstream f(fichero);
     std::string marca;
     int32_t w = 0, h = 0;
-    if (!(f >> marca >> w >> h) || marca != "IMAGEN" || w <= 0 || h <= 0) {
-        return false;
+    const bool abierto = f.is_open();
+    if (!(f >> marca >> w >> h) || (marca != "IMAGEN" && marca != "ENORME") || w <= 0 || h <= 0) {
+        DejaImagenEnBlanco(destino);
+        return {abierto ? EstadoCarga::EnBlanco : EstadoCarga::Inexistente, 320, 240};
+    }
+    if (marca == "ENORME") {
+        DejaImagenEnBlanco(destino);
+        return {EstadoCarga::Desmesurada, w, h};
     }
     PintaImagenGenerada(destino, w, h);
-    return true;
+    return {EstadoCarga::Leida, w, h};
 }
 
 inline void EscribeFichero(const std::string &ruta, const std::string &contenido) {
@@ -207,6 +215,6 @@ inline void Sesion::JuegaPartida(int16_t lado, int16_t tipo, int32_t w, int32_t 
     NombreImagen = nombre;
     Zoom = 100;
     ImagenValida = VERDADERO;
-    ASSERT_TRUE(CargaImagen(ruta, teselari.Pic_Origin));
+    ASSERT_TRUE(CargaImagen(ruta, teselari.Pic_Origin).Leida());
     PreparaBitmap();
 }

@@ -263,6 +263,39 @@ TEST_F(Sesion, UnErrorDeLecturaEnLosAjustesDaLaImagenPorPerdida) {
     }
 }
 
+// A picture that is there but can't be decoded is lost like a missing one;
+// one stating a size too large to decode is refused with that size at the
+// zoom, even where the zoom would have brought it within the limits.
+TEST_F(Sesion, UnaImagenIlegibleSePierdeYUnaDesmesuradaSeRechaza) {
+    struct Caso {
+        const char *nombre;
+        std::string contenido;
+        int16_t zoom;
+        const char *titulo;
+        const char *medida;
+    };
+    const Caso casos[] = {
+        {"ilegible", "no es una imagen", 100, "Cargar Imagen", ""},
+        {"enorme", "ENORME 100000 100000", 100, "Imagen no válida", "( 100000 x 100000 pixels )"},
+        {"enorme con zoom", "ENORME 100000 80000", 5, "Imagen no válida", "( 5000 x 4000 pixels )"},
+        {"cabría con su zoom", "ENORME 9000 7000", 10, "Imagen no válida", "( 900 x 700 pixels )"},
+    };
+    for (const Caso &c : casos) {
+        PreparaPantalla();
+        DirectorioTrabajo = programa;
+        mensajes.clear();
+        const std::string foto = programa + "/foto.img";
+        EscribeFichero(foto, c.contenido);
+        EscribeFichero(programa + "/TESEL32.INI", BloquesDeAjustes(foto, c.zoom, 3, 0));
+        RestauraSesion();
+        ASSERT_EQ(mensajes.size(), 1u) << c.nombre;
+        EXPECT_EQ(mensajes[0].titulo, c.titulo) << c.nombre;
+        EXPECT_NE(mensajes[0].texto.find(c.medida), std::string::npos) << c.nombre;
+        EXPECT_EQ(teselari.Pic_W.Ancho() * teselari.Pic_W.Alto(), 0) << c.nombre;
+        EXPECT_TRUE(PartidaCoherente()) << c.nombre;
+    }
+}
+
 TEST_F(Sesion, FueraDeLaCarpetaDelProgramaElDialogoAbreEnLaDeTrabajo) {
     const std::string trabajo = datos + "/teselari/";
     fs::create_directories(trabajo);

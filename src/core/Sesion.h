@@ -1,6 +1,7 @@
 // The game kept between runs (TESEL32.INI) and the working folder.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 class Superficie;
@@ -16,11 +17,35 @@ void RestauraSesion();
 // else the user's data folder for the game, with the sample files copied.
 void CompruebaSiCD();
 
+// What became of a picture file given to the loader.
+enum class EstadoCarga : int8_t {
+    Leida,       // decoded: the surface holds it at its own size
+    EnBlanco,    // there, but it can't be decoded or is cut short
+    Inexistente, // no such file, or it can't be opened
+    Desmesurada, // states a size that no zoom brings into the limits, or
+                 // more pixels than the game holds: it is not decoded, and
+                 // the size rules refuse it whatever zoom they compute
+};
+
+// The outcome of a load. Ancho and Alto are the W and H the size rules
+// work with: the picture's own size when it was read, the size the file
+// states when it is too large, else 320 x 240. Whenever the picture was not
+// read, the surface is left a plain white 320 x 240.
+struct CargaDeImagen {
+    EstadoCarga Estado = EstadoCarga::Inexistente;
+    int64_t Ancho = 320;
+    int64_t Alto = 240;
+    bool Leida() const { return Estado == EstadoCarga::Leida; }
+};
+
 // Loads a picture file into a surface at the file's own size (the platform
-// installs its decoders). Returns false when the file cannot be read.
-using CargadorImagen = bool (*)(const std::string &fichero, Superficie &destino);
+// installs its decoders). Without a loader every file is Inexistente.
+using CargadorImagen = CargaDeImagen (*)(const std::string &fichero, Superficie &destino);
 void PonCargadorImagen(CargadorImagen c);
-bool CargaImagen(const std::string &fichero, Superficie &destino);
+CargaDeImagen CargaImagen(const std::string &fichero, Superficie &destino);
+
+// The surface as the picture of a file that was not read: white 320 x 240.
+void DejaImagenEnBlanco(Superficie &destino);
 
 // The program's folder, where the sample pictures stand: the platform sets
 // it to the executable's folder at start. Kept without a closing "/" unless

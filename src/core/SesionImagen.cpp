@@ -16,11 +16,11 @@ constexpr int64_t ALTO_MINIMO = 240, ALTO_MAXIMO = 768;
 // The first sample pictures of the list of the program's files.
 constexpr int PRIMERA_MUESTRA = 2;
 
-int64_t ConZoom(int32_t lado, int16_t zoom) {
+} // namespace
+
+int64_t ConZoom(int64_t lado, int16_t zoom) {
     return static_cast<int64_t>(std::floor(static_cast<double>(lado) * zoom / 100.0));
 }
-
-} // namespace
 
 bool TamanoPermitido(int64_t ancho, int64_t alto) {
     return ancho >= ANCHO_MINIMO && ancho <= ANCHO_MAXIMO && alto >= ALTO_MINIMO &&
@@ -60,7 +60,7 @@ void CargaImagenDeMuestra() {
     for (int i = PRIMERA_MUESTRA; i < NRO_FICHEROS_PROGRAMA; ++i) {
         const std::string fichero = carpeta + FicherosPrograma[i];
         teselari.Pic_W.QuitaImagen();
-        if (!CargaImagen(fichero, teselari.Pic_W) ||
+        if (!CargaImagen(fichero, teselari.Pic_W).Leida() ||
             !TamanoPermitido(AnchoConZoom(100), AltoConZoom(100))) {
             continue;
         }

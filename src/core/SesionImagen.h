@@ -8,6 +8,9 @@
 // by 240..768, the limits included.
 bool TamanoPermitido(int64_t ancho, int64_t alto);
 
+// A side of a picture at the zoom: the integer part of lado x zoom / 100.
+int64_t ConZoom(int64_t lado, int16_t zoom);
+
 // The size of the picture in Pic_W at the zoom, each side's integer part.
 int64_t AnchoConZoom(int16_t zoom);
 int64_t AltoConZoom(int16_t zoom);

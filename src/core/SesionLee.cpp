@@ -89,25 +89,38 @@ void EmpiezaDeCero() {
     PideImagenYBaraja();
 }
 
-// Reloads the picture into Pic_Origin at the zoom; true when it was read.
-// w and h take its size after the zoom. A picture outside the limits is not
-// scaled: it is refused next.
-bool RecargaImagen(bool sinError, int64_t &w, int64_t &h) {
+// What reloading the saved game's picture came to.
+enum class Recarga { Leida, Rechazada, Perdida };
+
+// Reloads the picture into Pic_Origin at the zoom. w and h take its size
+// after the zoom. A file that is missing or can't be decoded is lost; one
+// outside the limits, or stating a size too large to decode, is refused
+// and not scaled.
+Recarga RecargaImagen(bool sinError, int64_t &w, int64_t &h) {
     FormTeselari &f = teselari;
     f.Pic_Origin.QuitaImagen();
     f.Pic_W.QuitaImagen();
     bool leida = sinError;
-    if (FicheroImagen != " " && !CargaImagen(FicheroImagen, f.Pic_W)) {
-        leida = false;
-    }
+    bool desmesurada = false;
     w = AnchoConZoom(Zoom);
     h = AltoConZoom(Zoom);
-    if (leida && TamanoPermitido(w, h)) {
-        PasaImagenAOrigen(static_cast<int32_t>(w), static_cast<int32_t>(h));
-    } else {
-        f.Pic_W.CambiaTamano(0, 0);
+    if (FicheroImagen != " ") {
+        const CargaDeImagen carga = CargaImagen(FicheroImagen, f.Pic_W);
+        desmesurada = carga.Estado == EstadoCarga::Desmesurada;
+        leida = leida && (carga.Leida() || desmesurada);
+        w = ConZoom(carga.Ancho, Zoom);
+        h = ConZoom(carga.Alto, Zoom);
     }
-    return leida;
+    if (!leida) {
+        f.Pic_W.CambiaTamano(0, 0);
+        return Recarga::Perdida;
+    }
+    if (desmesurada || !TamanoPermitido(w, h)) {
+        f.Pic_W.CambiaTamano(0, 0);
+        return Recarga::Rechazada;
+    }
+    PasaImagenAOrigen(static_cast<int32_t>(w), static_cast<int32_t>(h));
+    return Recarga::Leida;
 }
 
 // The lines of a message, each but the last followed by NuevaLinea.
@@ -200,13 +213,16 @@ void RestauraSesion() {
         CarpetaImagen = DirectorioTrabajo;
     }
     int64_t w = 0, h = 0;
-    const bool leida = RecargaImagen(!l.errorLectura, w, h);
-    if (leida && !TamanoPermitido(w, h)) {
-        RechazaImagen(w, h);
-    } else if (leida) {
+    switch (RecargaImagen(!l.errorLectura, w, h)) {
+    case Recarga::Leida:
         RecuperaPartida(l);
-    } else {
+        break;
+    case Recarga::Rechazada:
+        RechazaImagen(w, h);
+        break;
+    case Recarga::Perdida:
         LamentaImagenPerdida();
+        break;
     }
     teselari.MousePointer = PUNTERO_NORMAL;
 }

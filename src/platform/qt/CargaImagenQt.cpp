@@ -1,74 +1,66 @@
 #include "platform/qt/CargaImagenQt.h"
 
 #include <QFile>
-#include <QImage>
-#include <QImageReader>
-#include <cstdlib>
+#include <QFileInfo>
 #include <cstring>
 
+#include "platform/qt/Decodificadores.h"
 #include "platform/raster/Superficie.h"
 
 namespace {
 
-uint32_t Palabra(const QByteArray &b, int desde, int bytes) {
-    uint32_t v = 0;
-    for (int i = bytes - 1; i >= 0; --i) {
-        v = (v << 8) | static_cast<uint8_t>(b[desde + i]);
+// JPEG and metafiles are read whole; a longer file is not a picture the
+// game could hold.
+constexpr int64_t BYTES_MAXIMOS = PIXELES_MAXIMOS * 4;
+
+Decodificacion Decodifica(QFile &f) {
+    const QByteArray cabecera = f.peek(64);
+    const ClaseImagen clase = ClaseDeContenido(cabecera);
+    if (clase == ClaseImagen::Bmp) {
+        return DecodificaBmp(f, f.size());
     }
-    return v;
+    if (clase == ClaseImagen::Otra || f.size() > BYTES_MAXIMOS) {
+        return {};
+    }
+    const QByteArray datos = f.readAll();
+    switch (clase) {
+    case ClaseImagen::Jpeg:
+        return DecodificaJpeg(datos);
+    case ClaseImagen::Wmf:
+        return DecodificaWmf(datos);
+    case ClaseImagen::Emf:
+        return DecodificaEmf(datos);
+    default:
+        return {};
+    }
 }
 
-} // namespace
-
-bool BmpTruncado(const std::string &fichero) {
-    QFile f(QString::fromStdString(fichero));
-    if (!f.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray cabecera = f.read(54);
-    if (cabecera.size() < 2 || cabecera[0] != 'B' || cabecera[1] != 'M') {
-        return false;
-    }
-    if (cabecera.size() < 54) {
-        return true;
-    }
-    const qint64 tamano = f.size();
-    const uint32_t inicio = Palabra(cabecera, 10, 4);
-    const uint32_t tamanoCabecera = Palabra(cabecera, 14, 4);
-    if (tamanoCabecera < 40) {
-        return false; // an old OS/2 header: left to the reader
-    }
-    const int64_t ancho = static_cast<int32_t>(Palabra(cabecera, 18, 4));
-    const int64_t alto = std::llabs(static_cast<int32_t>(Palabra(cabecera, 22, 4)));
-    const uint32_t bits = Palabra(cabecera, 28, 2);
-    const uint32_t compresion = Palabra(cabecera, 30, 4);
-    const uint32_t tamanoImagen = Palabra(cabecera, 34, 4);
-    int64_t necesarios = 0;
-    if (compresion == 0 || compresion == 3) {
-        const int64_t fila = ((ancho * bits + 31) / 32) * 4;
-        necesarios = static_cast<int64_t>(inicio) + fila * alto;
-    } else {
-        necesarios = static_cast<int64_t>(inicio) + tamanoImagen;
-    }
-    return tamano < necesarios;
-}
-
-bool CargaImagenQt(const std::string &fichero, Superficie &destino) {
-    QImageReader lector(QString::fromStdString(fichero));
-    lector.setAutoTransform(false);
-    if (lector.format() == "bmp" && BmpTruncado(fichero)) {
-        return false;
-    }
-    QImage imagen = lector.read();
-    if (imagen.isNull()) {
-        return false;
-    }
-    imagen = imagen.convertToFormat(QImage::Format_RGB32);
+void CopiaEnSuperficie(const QImage &imagen, Superficie &destino) {
     destino.CambiaTamano(imagen.width(), imagen.height());
     for (int y = 0; y < imagen.height(); ++y) {
         std::memcpy(destino.Fila(y), imagen.constScanLine(y),
                     static_cast<size_t>(imagen.width()) * 4);
     }
     destino.Cambiado(destino.Limites());
-    return true;
+}
+
+} // namespace
+
+CargaDeImagen CargaImagenQt(const std::string &fichero, Superficie &destino) {
+    const QString nombre = QString::fromStdString(fichero);
+    QFile f(nombre);
+    if (!QFileInfo(nombre).isFile() || !f.open(QIODevice::ReadOnly)) {
+        DejaImagenEnBlanco(destino);
+        return {EstadoCarga::Inexistente, 320, 240};
+    }
+    const Decodificacion d = Decodifica(f);
+    if (d.Estado == EstadoCarga::Leida) {
+        CopiaEnSuperficie(d.Imagen, destino);
+        return {d.Estado, d.Ancho, d.Alto};
+    }
+    DejaImagenEnBlanco(destino);
+    if (d.Estado == EstadoCarga::Desmesurada) {
+        return {d.Estado, d.Ancho, d.Alto};
+    }
+    return {EstadoCarga::EnBlanco, 320, 240};
 }

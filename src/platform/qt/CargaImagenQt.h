@@ -1,15 +1,15 @@
-// The picture decoders of the platform: QImageReader, which sniffs the
-// content, so a run-length BMP named ".rle" reads as well.
+// The loader the game installs: the decoder is chosen by the file's
+// content, so a run-length bitmap named ".rle" reads as a bitmap, and a
+// picture of another kind under one of the game's names doesn't read.
 #pragma once
 
 #include <string>
 
+#include "core/Sesion.h"
+
 class Superficie;
 
-// Loads the file into the surface at its own size. False when it can't be
-// read, and also for a BMP shorter than its header says (the reader would
-// give rows of garbage for the missing part without an error).
-bool CargaImagenQt(const std::string &fichero, Superficie &destino);
-
-// Whether a BMP file's bytes are fewer than its header needs.
-bool BmpTruncado(const std::string &fichero);
+// Loads the file into the surface at its own size. A file that is missing,
+// can't be decoded or is cut short leaves the surface a white 320 x 240;
+// so does one stating a size past use, which isn't decoded.
+CargaDeImagen CargaImagenQt(const std::string &fichero, Superficie &destino);

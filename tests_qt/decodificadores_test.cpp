@@ -1,0 +1,388 @@
+// The picture loader on the committed sample files of every kind, and on a
+// corpus of damaged ones made from them: each good file reads at the size
+// it states with its four coloured quarters, each bad one ends as a plain
+// white 320 x 240 or as a refusal for its size, never as stray pixels.
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <functional>
+#include <gtest/gtest.h>
+#include <random>
+
+#include "platform/qt/CargaImagenQt.h"
+#include "platform/qt/Decodificadores.h"
+#include "platform/raster/Superficie.h"
+
+namespace {
+
+QString RutaMuestra(const char *nombre) {
+    return QStringLiteral(TESELARI_CARPETA_IMAGENES "/") + QString::fromLatin1(nombre);
+}
+
+QByteArray LeeMuestra(const char *nombre) {
+    QFile f(RutaMuestra(nombre));
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+bool HayDecodificadorDe(const char *nombre) {
+    const QByteArray n(nombre);
+    return (!n.endsWith(".wmf") || HayDecodificadorWmf()) &&
+           (!n.endsWith(".emf") || HayDecodificadorEmf());
+}
+
+bool ParecidoA(Color c, Color esperado, int tolerancia) {
+    for (int desplazamiento : {0, 8, 16}) {
+        const int a = static_cast<int>((c >> desplazamiento) & 0xFF);
+        const int b = static_cast<int>((esperado >> desplazamiento) & 0xFF);
+        if (std::abs(a - b) > tolerancia) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool TodoBlanco(const Superficie &s) {
+    for (uint32_t p : s.Pixeles()) {
+        if (p != APixel(COLOR_BLANCO)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+struct Muestra {
+    const char *nombre;
+    int ancho, alto;
+    int tolerancia; // per channel: the JPEG is lossy, the metafiles drawn
+};
+
+class MuestraBuena : public ::testing::TestWithParam<Muestra> {};
+
+TEST_P(MuestraBuena, SeLeeConSuTamanoYSusCuatroCuartos) {
+    const Muestra &m = GetParam();
+    Superficie s(5, 5, RGB(1, 2, 3));
+    const CargaDeImagen carga = CargaImagenQt(RutaMuestra(m.nombre).toStdString(), s);
+    if (!HayDecodificadorDe(m.nombre)) { // a build without the library: blank
+        EXPECT_EQ(carga.Estado, EstadoCarga::EnBlanco);
+        EXPECT_EQ(s.Ancho() * 1000 + s.Alto(), 320240);
+        EXPECT_TRUE(TodoBlanco(s));
+        return;
+    }
+    ASSERT_EQ(carga.Estado, EstadoCarga::Leida);
+    EXPECT_EQ(carga.Ancho, m.ancho);
+    EXPECT_EQ(carga.Alto, m.alto);
+    ASSERT_EQ(s.Ancho(), m.ancho);
+    ASSERT_EQ(s.Alto(), m.alto);
+    const int w = m.ancho, h = m.alto;
+    const struct {
+        int x, y;
+        Color color;
+    } puntos[] = {{w / 4, h / 4, RGB(255, 0, 0)},
+                  {3 * w / 4, h / 4, RGB(0, 255, 0)},
+                  {w / 4, 3 * h / 4, RGB(0, 0, 255)},
+                  {3 * w / 4, 3 * h / 4, COLOR_BLANCO},
+                  {1, 1, RGB(255, 0, 0)},
+                  {w - 2, h - 2, COLOR_BLANCO},
+                  {w / 2 - 3, h / 2 + 2, RGB(0, 0, 255)},
+                  {w / 2 + 2, h / 2 - 3, RGB(0, 255, 0)}};
+    for (const auto &p : puntos) {
+        EXPECT_TRUE(ParecidoA(s.Point(p.x, p.y), p.color, m.tolerancia))
+            << m.nombre << " at (" << p.x << ", " << p.y << "): " << std::hex << s.Point(p.x, p.y);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Formatos, MuestraBuena,
+    ::testing::Values(Muestra{"cuartos24.bmp", 40, 30, 0}, Muestra{"cuartos8.bmp", 48, 36, 0},
+                      Muestra{"cuartos_rle8.bmp", 50, 34, 0},
+                      Muestra{"cuartos_rle4.bmp", 46, 30, 0}, Muestra{"cuartos.rle", 52, 40, 0},
+                      Muestra{"cuartos.jpg", 64, 48, 40}, Muestra{"cuartos.wmf", 80, 60, 8},
+                      Muestra{"poligonos.wmf", 88, 66, 8}, Muestra{"cuartos.emf", 72, 54, 8}),
+    [](const auto &info) {
+        std::string n = info.param.nombre;
+        for (char &c : n) {
+            c = std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
+        }
+        return n;
+    });
+
+// --- The corpus of bad files ---
+
+QByteArray Corta(const char *nombre, qsizetype bytes) {
+    return LeeMuestra(nombre).left(bytes);
+}
+
+QByteArray Aleatorios(unsigned semilla, int bytes, const QByteArray &principio = {}) {
+    std::mt19937 g(semilla);
+    QByteArray b = principio;
+    while (b.size() < bytes) {
+        b.append(static_cast<char>(g() & 0xFF));
+    }
+    return b;
+}
+
+template <typename T> QByteArray Pon(QByteArray b, qsizetype desde, T valor) {
+    T v = valor;
+    std::memcpy(b.data() + desde, &v, sizeof v);
+    return b;
+}
+
+QByteArray PonAltaDe16(QByteArray b, qsizetype desde, uint16_t valor) {
+    b[desde] = static_cast<char>(valor >> 8);
+    b[desde + 1] = static_cast<char>(valor & 0xFF);
+    return b;
+}
+
+// The JPEG with its frame header saying w x h.
+QByteArray JpegDe(uint16_t ancho, uint16_t alto) {
+    QByteArray b = LeeMuestra("cuartos.jpg");
+    const qsizetype sof = b.indexOf("\xFF\xC0");
+    return PonAltaDe16(PonAltaDe16(b, sof + 5, alto), sof + 7, ancho);
+}
+
+// The placeable metafile with a bounding box of w x h twips at 1440 a inch.
+QByteArray WmfDe(int16_t ancho, int16_t alto, uint16_t porPulgada) {
+    QByteArray b = LeeMuestra("cuartos.wmf");
+    b = Pon<int16_t>(Pon<int16_t>(b, 10, ancho), 12, alto);
+    b = Pon<uint16_t>(b, 14, porPulgada);
+    uint16_t suma = 0;
+    for (int i = 0; i < 10; ++i) {
+        suma ^= qFromLittleEndian<uint16_t>(b.constData() + 2 * i);
+    }
+    return Pon<uint16_t>(b, 20, suma);
+}
+
+QByteArray Png() {
+    QImage i(50, 40, QImage::Format_RGB32);
+    i.fill(Qt::red);
+    QByteArray b;
+    QBuffer buffer(&b);
+    buffer.open(QIODevice::WriteOnly);
+    i.save(&buffer, "PNG");
+    return b;
+}
+
+struct Danado {
+    const char *nombre;
+    std::function<QByteArray()> contenido;
+    EstadoCarga estado; // EnBlanco, Desmesurada, or Leida for "either of both"
+    int64_t ancho = 320, alto = 240;
+};
+
+const EstadoCarga CUALQUIERA = EstadoCarga::Leida;
+
+const Danado CORPUS[] = {
+    {"vacio.bmp", [] { return QByteArray(); }, EstadoCarga::EnBlanco},
+    {"vacio.emf", [] { return QByteArray(); }, EstadoCarga::EnBlanco},
+    {"cabecera_a_medias.bmp", [] { return Corta("cuartos24.bmp", 20); }, EstadoCarga::EnBlanco},
+    {"sin_filas.bmp", [] { return Corta("cuartos24.bmp", 54); }, EstadoCarga::EnBlanco},
+    {"media_imagen.bmp", [] { return Corta("cuartos24.bmp", 1800); }, EstadoCarga::EnBlanco},
+    {"falta_un_byte.bmp", [] { return Corta("cuartos24.bmp", 3653); }, EstadoCarga::EnBlanco},
+    {"paleta_cortada.bmp", [] { return Corta("cuartos8.bmp", 60); }, EstadoCarga::EnBlanco},
+    {"paleta_sin_filas.bmp", [] { return Corta("cuartos8.bmp", 900); }, EstadoCarga::EnBlanco},
+    {"rle8_cortado.bmp", [] { return Corta("cuartos_rle8.bmp", 150); }, EstadoCarga::EnBlanco},
+    {"rle4_cortado.bmp", [] { return Corta("cuartos_rle4.bmp", 200); }, EstadoCarga::EnBlanco},
+    {"cortado.rle", [] { return Corta("cuartos.rle", 80); }, EstadoCarga::EnBlanco},
+    {"datos_fuera.bmp", [] { return Pon<uint32_t>(LeeMuestra("cuartos24.bmp"), 10, 1u << 30); },
+     EstadoCarga::EnBlanco},
+    {"cabecera_rara.bmp", [] { return Pon<uint32_t>(LeeMuestra("cuartos24.bmp"), 14, 99); },
+     EstadoCarga::EnBlanco},
+    {"ancho_cero.bmp", [] { return Pon<int32_t>(LeeMuestra("cuartos24.bmp"), 18, 0); },
+     EstadoCarga::EnBlanco},
+    {"enorme.bmp",
+     [] { return Pon<int32_t>(Pon<int32_t>(LeeMuestra("cuartos24.bmp"), 18, 100000), 22, 100000); },
+     EstadoCarga::Desmesurada, 100000, 100000},
+    {"bomba.rle",
+     [] { return Pon<int32_t>(Pon<int32_t>(LeeMuestra("cuartos.rle"), 18, 10000), 22, 9000); },
+     EstadoCarga::Desmesurada, 10000, 9000},
+    {"jpeg_sin_marco.jpg", [] { return Corta("cuartos.jpg", 30); }, EstadoCarga::EnBlanco},
+    {"jpeg_a_medias.jpg", [] { return Corta("cuartos.jpg", 250); }, EstadoCarga::EnBlanco},
+    {"jpeg_sin_fin.jpg", [] { return Corta("cuartos.jpg", LeeMuestra("cuartos.jpg").size() - 2); },
+     EstadoCarga::EnBlanco},
+    {"enorme.jpg", [] { return JpegDe(65000, 65000); }, EstadoCarga::Desmesurada, 65000, 65000},
+    {"bomba.jpg", [] { return JpegDe(9000, 9000); }, EstadoCarga::Desmesurada, 9000, 9000},
+    {"wmf_cortado.wmf", [] { return Corta("cuartos.wmf", 100); }, EstadoCarga::EnBlanco},
+    {"wmf_solo_cabecera.wmf", [] { return Corta("cuartos.wmf", 22); }, EstadoCarga::EnBlanco},
+    {"enorme.wmf", [] { return WmfDe(32000, 32000, 96); }, EstadoCarga::Desmesurada, 32000, 32000},
+    {"wmf_basura.wmf", [] { return Aleatorios(7, 400, LeeMuestra("cuartos.wmf").left(40)); },
+     CUALQUIERA},
+    {"emf_cortado.emf", [] { return Corta("cuartos.emf", 200); }, EstadoCarga::EnBlanco},
+    {"emf_solo_cabecera.emf", [] { return Corta("cuartos.emf", 88); }, EstadoCarga::EnBlanco},
+    {"enorme.emf",
+     [] { return Pon<int32_t>(Pon<int32_t>(LeeMuestra("cuartos.emf"), 16, 99999), 20, 99999); },
+     EstadoCarga::Desmesurada, 100000, 100000},
+    {"emf_registro_largo.emf", [] { return Pon<uint32_t>(LeeMuestra("cuartos.emf"), 92, 4000); },
+     EstadoCarga::EnBlanco},
+    {"aleatorio.bmp", [] { return Aleatorios(1, 3000); }, EstadoCarga::EnBlanco},
+    {"aleatorio_con_marca.bmp", [] { return Aleatorios(2, 3000, "BM"); }, CUALQUIERA},
+    {"aleatorio_con_marca.jpg", [] { return Aleatorios(3, 3000, "\xFF\xD8\xFF"); }, CUALQUIERA},
+    {"aleatorio_con_marca.emf",
+     [] { return Aleatorios(4, 3000, LeeMuestra("cuartos.emf").left(48)); }, CUALQUIERA},
+    {"png_con_otro_nombre.bmp", Png, EstadoCarga::EnBlanco},
+    {"texto.jpg", [] { return QByteArray("no soy una imagen\n"); }, EstadoCarga::EnBlanco},
+    {"gif.wmf", [] { return Aleatorios(5, 200, "GIF89a"); }, EstadoCarga::EnBlanco},
+};
+
+class Corpus : public ::testing::TestWithParam<Danado> {};
+
+TEST_P(Corpus, AcabaEnBlancoOEnRechazoSinPixelesSueltos) {
+    const Danado &d = GetParam();
+    if (!HayDecodificadorDe(d.nombre)) {
+        GTEST_SKIP() << "built without the decoder of " << d.nombre;
+    }
+    QTemporaryDir carpeta;
+    const QString ruta = carpeta.filePath(QString::fromLatin1(d.nombre));
+    QFile f(ruta);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(d.contenido());
+    f.close();
+    Superficie s(7, 9, RGB(1, 2, 3));
+    const CargaDeImagen carga = CargaImagenQt(ruta.toStdString(), s);
+    ASSERT_NE(carga.Estado, EstadoCarga::Leida) << d.nombre;
+    ASSERT_NE(carga.Estado, EstadoCarga::Inexistente) << d.nombre;
+    if (d.estado != CUALQUIERA) {
+        EXPECT_EQ(carga.Estado, d.estado) << d.nombre;
+        EXPECT_EQ(carga.Ancho, d.ancho) << d.nombre;
+        EXPECT_EQ(carga.Alto, d.alto) << d.nombre;
+    }
+    if (carga.Estado == EstadoCarga::Desmesurada) {
+        EXPECT_TRUE(TamanoDesmesurado(carga.Ancho, carga.Alto)) << d.nombre;
+    }
+    EXPECT_EQ(s.Ancho(), 320) << d.nombre;
+    EXPECT_EQ(s.Alto(), 240) << d.nombre;
+    EXPECT_TRUE(TodoBlanco(s)) << d.nombre;
+}
+
+INSTANTIATE_TEST_SUITE_P(Danados, Corpus, ::testing::ValuesIn(CORPUS), [](const auto &info) {
+    std::string n = info.param.nombre;
+    for (char &c : n) {
+        c = std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
+    }
+    return n;
+});
+
+TEST(CargaImagenQt, ElContenidoDecideYNoElNombre) {
+    QTemporaryDir carpeta;
+    struct Caso {
+        const char *muestra, *nombre;
+    } casos[] = {{"cuartos24.bmp", "bitmap.jpg"},
+                 {"cuartos.jpg", "foto.bmp"},
+                 {"cuartos_rle4.bmp", "sin_extension"}};
+    for (const Caso &c : casos) {
+        const QString ruta = carpeta.filePath(QString::fromLatin1(c.nombre));
+        ASSERT_TRUE(QFile::copy(RutaMuestra(c.muestra), ruta));
+        Superficie s;
+        EXPECT_TRUE(CargaImagenQt(ruta.toStdString(), s).Leida()) << c.nombre;
+    }
+    // Bytes after a JPEG's end, as some cameras leave, don't cut it short.
+    const QString cola = carpeta.filePath(QStringLiteral("cola.jpg"));
+    QFile f(cola);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(LeeMuestra("cuartos.jpg") + QByteArray(100, '\0'));
+    f.close();
+    Superficie s;
+    EXPECT_TRUE(CargaImagenQt(cola.toStdString(), s).Leida());
+}
+
+// An 8-bit run-length bitmap of 40 x 20, white and green, whose stream
+// skips pixels: a line ended early, a jump of 10 across and 5 up, and the
+// end of the picture before its last rows. 52 pixels are drawn green.
+QByteArray RleConSaltos() {
+    const QByteArray datos("\x28\x01\x00\x00"                 // row 0: 40 green
+                           "\x05\x01\x00\x00"                 // row 1: 5, then the end
+                           "\x03\x01\x00\x02\x0A\x05\x04\x01" // row 2: 3, jump, 4
+                           "\x00\x00\x00\x01",
+                           20);
+    QByteArray b("BM");
+    auto pon32 = [&b](uint32_t v) { b.append(reinterpret_cast<const char *>(&v), 4); };
+    auto pon16 = [&b](uint16_t v) { b.append(reinterpret_cast<const char *>(&v), 2); };
+    pon32(14 + 40 + 8 + datos.size());
+    pon32(0);
+    pon32(14 + 40 + 8);
+    for (uint32_t v : {40u, 40u, 20u}) {
+        pon32(v);
+    }
+    pon16(1);
+    pon16(8);
+    for (uint32_t v : {1u, static_cast<uint32_t>(datos.size()), 2835u, 2835u, 2u, 0u, 0x00FFFFFFu,
+                       0x0000FF00u}) {
+        pon32(v);
+    }
+    return b + datos;
+}
+
+TEST(CargaImagenQt, LoQueUnBmpComprimidoSaltaQuedaDelPrimerColor) {
+    QTemporaryDir carpeta;
+    const QString ruta = carpeta.filePath(QStringLiteral("saltos.rle"));
+    QFile f(ruta);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(RleConSaltos());
+    f.close();
+    for (int i = 0; i < 8; ++i) { // leave stale bytes where the reader allocates
+        QImage sucia(40, 20, QImage::Format_Indexed8);
+        sucia.fill(0x77);
+    }
+    Superficie s;
+    ASSERT_TRUE(CargaImagenQt(ruta.toStdString(), s).Leida());
+    ASSERT_EQ(s.Ancho() * 1000 + s.Alto(), 40020);
+    int verdes = 0;
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            const Color c = s.Point(x, y);
+            verdes += c == RGB(0, 255, 0);
+            EXPECT_TRUE(c == RGB(0, 255, 0) || c == COLOR_BLANCO) << x << ", " << y;
+        }
+    }
+    EXPECT_EQ(verdes, 52);
+    EXPECT_EQ(s.Point(0, 19), RGB(0, 255, 0));  // the bottom row
+    EXPECT_EQ(s.Point(13, 12), RGB(0, 255, 0)); // after the jump
+    EXPECT_EQ(s.Point(5, 18), COLOR_BLANCO);    // after the early end of line
+}
+
+TEST(CargaImagenQt, LoQueNoEsUnFicheroNoExiste) {
+    QTemporaryDir carpeta;
+    ASSERT_TRUE(QDir(carpeta.path()).mkdir(QStringLiteral("carpeta.bmp")));
+    for (const char *nombre : {"falta.bmp", "carpeta.bmp"}) {
+        Superficie s(10, 10, RGB(1, 2, 3));
+        const CargaDeImagen carga =
+            CargaImagenQt(carpeta.filePath(QString::fromLatin1(nombre)).toStdString(), s);
+        EXPECT_EQ(carga.Estado, EstadoCarga::Inexistente) << nombre;
+        EXPECT_EQ(s.Ancho() * 1000 + s.Alto(), 320240) << nombre;
+        EXPECT_TRUE(TodoBlanco(s)) << nombre;
+    }
+}
+
+// The pictures that go with the game, real photographs among them, all read.
+TEST(CargaImagenQt, LasMuestrasDelJuegoSeLeen) {
+    const QDir carpeta(QStringLiteral(TESELARI_CARPETA_MUESTRAS));
+    const QStringList nombres = carpeta.entryList(QDir::Files);
+    ASSERT_FALSE(nombres.isEmpty());
+    for (const QString &nombre : nombres) {
+        Superficie s;
+        const CargaDeImagen carga = CargaImagenQt(carpeta.filePath(nombre).toStdString(), s);
+        EXPECT_TRUE(carga.Leida()) << nombre.toStdString();
+        EXPECT_EQ(s.Ancho(), carga.Ancho) << nombre.toStdString();
+        EXPECT_EQ(s.Alto(), carga.Alto) << nombre.toStdString();
+    }
+}
+
+TEST(TamanoDesmesurado, ElZoomMinimoYElTopeDePixeles) {
+    const struct {
+        int64_t ancho, alto;
+        bool desmesurado;
+    } casos[] = {
+        {20499, 240, false}, {20500, 240, true},  // 5 % of the width: 1024 and 1025
+        {320, 15379, false}, {320, 15380, true},  // 5 % of the height: 768 and 769
+        {8192, 8192, false}, {8193, 8192, true},  // 64 M pixels and one row more
+        {0, 100000, false},  {-5, 100000, false}, // no size at all
+        {1, 1, false},       {4294967295, 4294967295, true},
+    };
+    for (const auto &c : casos) {
+        EXPECT_EQ(TamanoDesmesurado(c.ancho, c.alto), c.desmesurado) << c.ancho << " x " << c.alto;
+    }
+}
+
+} // namespace
