@@ -151,10 +151,16 @@ class JuegoQt : public testing::Test {
                                     ->grabWindow(ventana->winId())
                                     .toImage()
                                     .convertToFormat(QImage::Format_RGB32);
+        // The other controls stand where the game's state puts them: a
+        // surface the game has hidden must no longer be seen.
         QRegion libre(ventana->Pic_Trabajo->geometry() & ventana->rect());
         for (QObject *o : ventana->children()) {
             auto *w = qobject_cast<QWidget *>(o);
-            if (w != nullptr && w != ventana->Pic_Trabajo && w->isVisible()) {
+            auto *v = qobject_cast<VistaSuperficie *>(o);
+            if (v != nullptr && v != ventana->Pic_Trabajo && v->Control().Visible) {
+                const Superficie &c = v->Control();
+                libre -= QRect(c.Left, c.Top, c.Ancho(), c.Alto());
+            } else if (v == nullptr && w != nullptr && w->isVisible()) {
                 libre -= w->geometry();
             }
         }
