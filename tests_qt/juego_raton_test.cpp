@@ -255,3 +255,39 @@ TEST_F(JuegoQt, LaUltimaPiezaEnCasaMuestraElMensajeYLaSiguientePulsacionDevuelve
     EXPECT_EQ(PiezasColocadas, NroPiezas - 1);
     EXPECT_EQ(mensajes.size(), 1u);
 }
+
+class ParejaQt : public JuegoQt, public testing::WithParamInterface<int16_t> {};
+
+// The two pieces of a pair at home, the outer one on top: a press inside
+// the figure goes through the outer piece's hole to the inner one, a press
+// near the cell's corner takes the outer one.
+TEST_P(ParejaQt, LaFiguraSeCogeAtravesDelHuecoDeLaOtra) {
+    Prepara(4, GetParam(), 320, 240);
+    const int16_t fuera = 6, dentro = 6 + 16;
+    PonArriba(1, 600, 400); // one piece away: no press here finishes the game
+    const int32_t cx = Piezas[fuera].XCorrecta, cy = Piezas[fuera].YCorrecta;
+    ASSERT_EQ(Piezas[dentro].XCorrecta, cx);
+    struct Caso {
+        int x, y;
+        int16_t esperada;
+    };
+    const Caso casos[] = {{cx + AnchoPieza / 2, cy + AltoPieza / 2, dentro},
+                          {cx + 3, cy + 3, fuera},
+                          {cx + AnchoPieza - 4, cy + AltoPieza - 4, fuera}};
+    for (const Caso &c : casos) {
+        SCOPED_TRACE(testing::Message() << "press at " << c.x << "," << c.y);
+        PiezaPrioritaria(PosicionDe(dentro));
+        PiezaPrioritaria(PosicionDe(fuera));
+        RepintaTablero();
+        Pulsa(c.x, c.y);
+        EXPECT_EQ(PiezaLevantada, VERDADERO);
+        EXPECT_EQ(OrdenPiezas[1], c.esperada);
+        EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, ImagenConLaPiezaEnLaMano()));
+        Suelta(c.x, c.y);
+        EXPECT_TRUE(PiezaEnSuSitio(c.esperada));
+        EXPECT_EQ(PixelesDistintosEnPantalla(), 0);
+    }
+    EXPECT_TRUE(mensajes.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Figuras, ParejaQt, testing::Values(2, 3, 4, 5));
