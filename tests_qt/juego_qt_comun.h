@@ -164,6 +164,12 @@ class JuegoQt : public testing::Test {
                 libre -= w->geometry();
             }
         }
+        // The model is a child of the work area and moves with it.
+        const Superficie &modelo = PuzzGbl::teselari.Pic_Muestra;
+        if (modelo.Visible) {
+            libre -= QRect(modelo.Left, modelo.Top, modelo.Ancho(), modelo.Alto())
+                         .translated(ventana->Pic_Trabajo->pos());
+        }
         const Superficie &s = PuzzGbl::teselari.Pic_Trabajo;
         const QPoint origen = ventana->Pic_Trabajo->pos();
         int distintos = 0;
