@@ -32,6 +32,10 @@ struct Transicion {
     int16_t comando;
 };
 
+void PrintTo(const Transicion &t, std::ostream *os) {
+    *os << NOMBRES_MODO[t.modo] << " then " << t.comando;
+}
+
 std::vector<Transicion> Transiciones() {
     std::vector<Transicion> t;
     for (Modo m : {COLOCADAS, ORDENAR, RESOLVER}) {

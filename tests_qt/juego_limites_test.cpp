@@ -32,6 +32,10 @@ struct Destino {
     unsigned limites; // which ones bring it back
 };
 
+void PrintTo(const Destino &d, std::ostream *os) {
+    *os << d.nombre;
+}
+
 // Overshoots of 40 pixels and more: beyond what an edge scroll of the drag
 // itself (a tenth of the bar's range) can take back.
 const Destino DESTINOS[] = {

@@ -97,6 +97,10 @@ struct Arrastre {
     int hv, vv; // scrolling of the view
 };
 
+void PrintTo(const Arrastre &a, std::ostream *os) {
+    *os << "cut " << a.tipo << ", view at " << a.hv << "," << a.vv;
+}
+
 class ArrastreQt : public JuegoQt, public testing::WithParamInterface<Arrastre> {};
 
 TEST_P(ArrastreQt, LaPantallaEsLaImagenConLaPiezaEnSuSitio) {
@@ -161,6 +165,10 @@ struct AlcanceQt {
     int16_t factor;
     int dx, dy; // the largest offset still attracted, -1 for none
 };
+
+void PrintTo(const AlcanceQt &a, std::ostream *os) {
+    *os << "factor " << a.factor << ", reach " << a.dx << "," << a.dy;
+}
 
 class AtraccionQt : public JuegoQt, public testing::WithParamInterface<AlcanceQt> {};
 
