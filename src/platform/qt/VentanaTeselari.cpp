@@ -37,6 +37,17 @@ VentanaTeselari::VentanaTeselari(QWidget *padre)
         Pic_BotonDerecho[i] = new VistaSuperficie(f.Pic_BotonDerecho[i], Pic_BotonesDerecho);
     }
 
+    // A drawing reaches the screen at once, without the event loop: what
+    // the game changed before it (a control hidden or moved) goes first, or
+    // the spot would still show it.
+    for (VistaSuperficie *v : findChildren<VistaSuperficie *>()) {
+        v->AntesDeRepintar = [this] {
+            if (!sincronizando_) {
+                Sincroniza();
+            }
+        };
+    }
+
     connect(BarraHor, &QScrollBar::valueChanged, this,
             [this](int v) { Barra_Change(teselari.BarraHor, v); });
     connect(BarraVer, &QScrollBar::valueChanged, this,

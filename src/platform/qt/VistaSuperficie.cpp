@@ -24,6 +24,9 @@ void VistaSuperficie::Vigila() {
     superficie_.AlCambiar = [this](const Rectangulo &r) {
         // A surface resized or moved by the logic shows its new place before
         // the drawing that follows is seen.
+        if (AntesDeRepintar) {
+            AntesDeRepintar();
+        }
         SincronizaLugar();
         if (isVisible() && !r.Vacio()) {
             repaint(QRect(r.Izquierda, r.Arriba, r.Ancho(), r.Alto()));

@@ -33,6 +33,11 @@ class VistaSuperficie : public QWidget {
     Manejador AlMover;  // MouseMove
     Manejador AlSoltar; // MouseUp
 
+    // Runs before a drawing on the surface is repainted, so that the form
+    // can first mirror what else the game has changed meanwhile (a panel
+    // hidden over the spot, say).
+    std::function<void()> AntesDeRepintar;
+
   protected:
     void paintEvent(QPaintEvent *evento) override;
     void mousePressEvent(QMouseEvent *evento) override;
