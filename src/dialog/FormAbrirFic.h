@@ -41,7 +41,7 @@ class FormAbrirFic {
     int32_t Left = 0;
     int32_t Top = 0;
     SuperficieDialogo Formulario; // the form's own drawing area
-    int16_t MousePointer = 0;     // the screen's pointer while the dialog is up
+    int16_t MousePointer = 0;     // the form's own pointer (14 in what's-this mode)
     std::function<void()> AlRefrescar;
     bool Descargado() const { return descargado_; }
 
@@ -122,6 +122,8 @@ class FormAbrirFic {
     PasosPorcentaje PasoVelocidad;
     PasosPorcentaje PasoZoom;
     int16_t ModoQueEs = 0; // flag: the next click asks for help
+    // Whether a file was evaluated by File1_Click in this opening.
+    bool FicheroEvaluado = false;
 
     // --- opening and closing ---
     void Form_Load();
@@ -180,8 +182,10 @@ class FormAbrirFic {
 
     // --- what's this, tooltips, pointers ---
     void Bot_QueEs_Click();
-    // In what's-this mode a press on any control ends here: its topic is
-    // shown and true returned, and the handler must not act.
+    // What's-this mode belongs to the platform's event routing: on a press
+    // on any control the platform calls this with the control's
+    // WhatsThisHelpID first; in the mode the topic is shown, the mode ends
+    // and true comes back, and the control's handler must not run.
     bool AtiendeQueEs(int16_t tema);
     void CompruebaPistasAbrirfic();
     // The MouseMove of the controls that only take the pointing hand.
