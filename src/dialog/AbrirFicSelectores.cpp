@@ -7,6 +7,7 @@
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
 #include "dialog/FormAbrirFic.h"
+#include "dialog/Rejillas.h"
 #include "panels/Paneles.h"
 #include "platform/raster/Raster.h"
 #include "services/Esperas.h"
@@ -20,10 +21,6 @@ constexpr Color GRIS = 0xC0C0C0;
 constexpr Color GRIS_OSCURO = 0x808080;
 constexpr Color AZUL = 0xFF0000;
 constexpr int32_t LADO_MINIMO = 3, LADO_MAXIMO = 20;
-
-bool CeldaAdmitida(int32_t lado) {
-    return lado >= 24 && lado <= 140;
-}
 
 bool EnLlave(float x, float y) {
     return x >= 4 && x <= 33 && y >= 18 && y <= 37;
@@ -39,29 +36,22 @@ bool EnLlave(float x, float y) {
 // cutting knows.
 void FormAbrirFic::CargaLisNroPiezas() {
     Lis_NroPiezas.Clear();
-    int16_t cercano = 99;
-    int32_t indice = 0;
-    const int32_t w = teselari.Pic_Origin.Ancho(), h = teselari.Pic_Origin.Alto();
-    for (int16_t n = LADO_MINIMO; n <= LADO_MAXIMO; ++n) {
-        if (!CeldaAdmitida(w / n) || !CeldaAdmitida(h / n)) {
-            continue;
-        }
+    const std::vector<int16_t> ofrecidas =
+        RejillasOfrecidas(teselari.Pic_Origin.Ancho(), teselari.Pic_Origin.Alto());
+    for (int16_t n : ofrecidas) {
         Lis_NroPiezas.AddItem(PiezasDobles == 0 ? CadenaFija(TextoNroPiezas[n], 14)
                                                 : CadenaFija(TextoNroPiezas[n + 20], 18));
-        if (std::abs(n - PiezasPorLado) <= std::abs(cercano - PiezasPorLado)) {
-            cercano = n;
-            indice = Lis_NroPiezas.ListCount() - 1;
-        }
     }
-    if (Lis_NroPiezas.ListCount() == 0) {
-        cercano =
-            static_cast<int16_t>(std::clamp<int32_t>(PiezasPorLado, LADO_MINIMO, LADO_MAXIMO));
-    }
+    const int32_t indice = RejillaCercana(ofrecidas, PiezasPorLado);
+    const int16_t cercano =
+        indice >= 0 ? ofrecidas[static_cast<size_t>(indice)]
+                    : static_cast<int16_t>(std::clamp<int32_t>(PiezasPorLado, LADO_MINIMO,
+                                                               LADO_MAXIMO));
     if (cercano != PiezasPorLado) {
         PiezasPorLado = cercano;
         CalculaPiezas();
     }
-    if (ImagenValida == FALSO || Lis_NroPiezas.ListCount() == 0) {
+    if (ImagenValida == FALSO || indice < 0) {
         return;
     }
     Lis_NroPiezas.PonListIndex(indice);

@@ -65,6 +65,11 @@ void ListaUnidades::Refresh() {
     }
 }
 
+void ListaUnidades::Inicia(const std::string &unidad) {
+    drive_ = unidad;
+    Refresh();
+}
+
 void ListaUnidades::PonDrive(const std::string &unidad) {
     if (unidad.empty() || unidad == drive_) {
         return;

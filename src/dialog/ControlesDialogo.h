@@ -115,7 +115,9 @@ class ListaUnidades : public ListaDialogo {
     const std::string &Drive() const { return drive_; }
     // A drive not in the list joins it.
     void PonDrive(const std::string &unidad);
-    // Fills the list with the volumes the platform reports.
+    // Fills the list with the volumes the platform reports, the drive
+    // given selected, without a change.
+    void Inicia(const std::string &unidad);
     void Refresh();
     std::function<void()> Change;
 

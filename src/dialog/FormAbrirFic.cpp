@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "core/PuzzGbl.h"
+#include "core/Sesion.h"
 #include "dialog/ServiciosDialogo.h"
 #include "services/Sonidos.h"
 
@@ -73,7 +74,7 @@ FormAbrirFic::FormAbrirFic() {
     // lists do; the opening then moves them.
     std::error_code ec;
     const std::string aqui = std::filesystem::current_path(ec).string();
-    Drive1.Refresh();
+    Drive1.Inicia(UnidadDeCarpeta(aqui));
     Dir1.PonPath(aqui);
     File1.PonPath(aqui);
     Drive1.Change = [this] { Drive1_Change(); };
