@@ -127,11 +127,27 @@ TEST(ListaDialogo, ElClickSoloAlCambiarAOtraEntrada) {
         EXPECT_EQ(l.ListIndex(), p.indice) << p.asigna;
         EXPECT_EQ(clicks, p.clicks) << p.asigna;
     }
-    l.PonListIndex(2);
+    // The player's click counts also on the selected entry.
+    l.Pulsa(0);
+    l.Pulsa(2);
+    EXPECT_EQ(l.ListIndex(), 2);
+    EXPECT_EQ(clicks, 5);
     l.Clear();
     EXPECT_EQ(l.ListIndex(), -1);
     EXPECT_EQ(l.ListCount(), 0);
-    EXPECT_EQ(clicks, 4);
+    EXPECT_EQ(clicks, 5);
+}
+
+TEST_F(Dialogo, ElMismoFicheroOtraVezDevuelveSuZoom) {
+    EscribeBmp("p.bmp", 200, 150);
+    Abre();
+    Elige("p.bmp");
+    ASSERT_EQ(Zoom, 165);
+    f->Pic_Zoom_MouseDown(1, 0, 120, 30);
+    ASSERT_EQ(Zoom, 170);
+    f->File1.Pulsa(f->File1.ListIndex());
+    EXPECT_EQ(Zoom, 165);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 330);
 }
 
 TEST(ListaDialogo, PatronDeImagenesSinMayusculas) {

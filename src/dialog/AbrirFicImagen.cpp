@@ -86,6 +86,9 @@ void FormAbrirFic::Dir1_Change() {
 }
 
 void FormAbrirFic::File1_Click() {
+    if (File1.ListIndex() == -1) {
+        return; // no file to evaluate
+    }
     if (CargandoDialogo == FALSO) {
         ReproduceSonido(12);
     }

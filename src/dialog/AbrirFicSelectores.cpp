@@ -44,9 +44,9 @@ void FormAbrirFic::CargaLisNroPiezas() {
     }
     const int32_t indice = RejillaCercana(ofrecidas, PiezasPorLado);
     const int16_t cercano =
-        indice >= 0 ? ofrecidas[static_cast<size_t>(indice)]
-                    : static_cast<int16_t>(std::clamp<int32_t>(PiezasPorLado, LADO_MINIMO,
-                                                               LADO_MAXIMO));
+        indice >= 0
+            ? ofrecidas[static_cast<size_t>(indice)]
+            : static_cast<int16_t>(std::clamp<int32_t>(PiezasPorLado, LADO_MINIMO, LADO_MAXIMO));
     if (cercano != PiezasPorLado) {
         PiezasPorLado = cercano;
         CalculaPiezas();

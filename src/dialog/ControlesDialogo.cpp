@@ -35,6 +35,16 @@ void ListaDialogo::PonListIndex(int32_t i) {
     }
 }
 
+void ListaDialogo::Pulsa(int32_t i) {
+    if (i >= 0 && i < ListCount() && i == indice_) {
+        if (Click) {
+            Click();
+        }
+        return;
+    }
+    PonListIndex(i);
+}
+
 std::string ListaDialogo::Text() const {
     return indice_ < 0 ? std::string() : elementos_[static_cast<size_t>(indice_)];
 }

@@ -86,6 +86,9 @@ class ListaDialogo : public ControlDialogo {
     int32_t ListIndex() const { return indice_; }
     // Out of range counts as -1.
     void PonListIndex(int32_t i);
+    // The player's click on entry i: selects it and runs Click, also when it
+    // was selected already.
+    void Pulsa(int32_t i);
     // The selected entry, or empty.
     std::string Text() const;
     void Clear();
