@@ -174,21 +174,6 @@ TEST_F(Dialogo, SinImagenUtilizableNoSePuedeSalir) {
     EXPECT_TRUE(f->Descargado());
 }
 
-TEST_F(Dialogo, AceptarSinEleccionTomaElPrimerFicheroUnaVez) {
-    EscribeBmp("0.bmp", 20, 20);
-    ImagenValida = FALSO;
-    NombreImagen = "falta.bmp";
-    Abre();
-    // The opening took 0.bmp as a click of the player, and refused it.
-    EXPECT_EQ(NombreImagen, "0.bmp");
-    ASSERT_EQ(mensajes.size(), 1u);
-    f->File1.PonListIndex(-1);
-    f->Pic_Si_MouseDown(1, 0, 5, 5);
-    EXPECT_EQ(f->File1.ListIndex(), 0);
-    EXPECT_EQ(mensajes.size(), 2u);
-    EXPECT_FALSE(f->Descargado());
-}
-
 TEST_F(Dialogo, AbrirDondeNoEstaLaImagenTomaLaPrimeraComoUnClick) {
     EscribeBmp("0.bmp", 640, 480);
     NombreImagen = "otra.bmp";
@@ -227,24 +212,21 @@ TEST_F(Dialogo, UnaCarpetaQueYaNoExisteLlevaALaDeTrabajo) {
     EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 12), 1); // the folder's change
 }
 
-TEST_F(Dialogo, LaPaginaDeBotonesMuestraLoElegido) {
+TEST_F(Dialogo, LaPaginaDeBotonesVuelveAMostrarLoElegido) {
     BotonEnSiempre.fill(true);
     BotonEnDerecho.fill(false);
     Abre();
-    f->Bot_Botones_Click();
-    EXPECT_TRUE(f->Pic_LugarBotones.Visible);
-    EXPECT_EQ(f->Lab_Botones[11].Caption, "Salir de la aplicación");
     for (int16_t i = 1; i <= 11; ++i) {
+        f->Bot_Botones_Click();
         f->Opt_Derecho_Click(i);
+        f->Pic_SalirPicBotones_Click();
+        EXPECT_FALSE(f->Pic_LugarBotones.Visible);
     }
-    f->Pic_SalirPicBotones_Click();
-    EXPECT_FALSE(f->Pic_LugarBotones.Visible);
-    for (int16_t i = 1; i <= 11; ++i) {
-        EXPECT_FALSE(BotonEnSiempre[i]);
-        EXPECT_TRUE(BotonEnDerecho[i]);
-    }
+    // All on the right button's panel: the page allows it.
+    EXPECT_EQ(std::count(BotonEnDerecho.begin() + 1, BotonEnDerecho.end(), true), 11);
+    EXPECT_EQ(std::count(BotonEnSiempre.begin() + 1, BotonEnSiempre.end(), true), 0);
     f->Bot_Botones_Click();
-    EXPECT_TRUE(f->Opt_Derecho[3].Value && !f->Opt_Siempre[3].Value);
+    EXPECT_EQ(f->Lab_Botones[11].Caption, "Salir de la aplicación");
 }
 
 TEST_F(Dialogo, QueEsDaElTemaDelControlEnVezDeActuar) {

@@ -99,16 +99,6 @@ INSTANTIATE_TEST_SUITE_P(Proporciones, FormasPorProporcion,
                                            CasoFormas{300, 700, 3, 3, false, true},
                                            CasoFormas{630, 300, 1, 1, true, true}));
 
-TEST_F(Dialogo, LaVistaPreviaGuardaLasProporcionesEnLaEsquina) {
-    EscribeBmp("ancha.bmp", 800, 300);
-    Abre();
-    Elige("ancha.bmp");
-    // 240 wide, 240 / (8 / 3) = 90 high; below it the surface stays white.
-    EXPECT_NE(f->Pic_Modelo.Point(239, 89), COLOR_BLANCO);
-    EXPECT_EQ(f->Pic_Modelo.Point(239, 90), COLOR_BLANCO);
-    EXPECT_EQ(f->Pic_Modelo.Point(0, 179), COLOR_BLANCO);
-}
-
 // --- list controls ---
 
 TEST(ListaDialogo, ElClickSoloAlCambiarAOtraEntrada) {
@@ -251,14 +241,6 @@ TEST_F(Dialogo, ElPortapapelesPasaPorTeseportComoCualquierFichero) {
     f->Pic_Si_MouseDown(1, 0, 10, 10);
     EXPECT_TRUE(f->Descargado());
     EXPECT_TRUE(std::filesystem::exists(fotos + "/teseport.bmp"));
-}
-
-TEST_F(Dialogo, SinImagenEnElPortapapelesElBotonNoHaceNada) {
-    Abre();
-    EXPECT_FALSE(f->Bot_Portapapeles.Enabled);
-    f->Bot_Portapapeles_Click();
-    EXPECT_FALSE(std::filesystem::exists(fotos + "/teseport.bmp"));
-    EXPECT_EQ(NombreImagen, "a.bmp");
 }
 
 TEST(GuardaBmp, FilasDeCualquierAnchoVuelvenIguales) {
