@@ -60,11 +60,18 @@ std::string AbreFicheroIni() {
     return contenido;
 }
 
-// The dialog leads the player to a picture, and a new game is dealt.
+// The dialog leads the player to a picture, and a new game is dealt: by
+// the dialog's command itself when the puzzle changed. When the platform
+// shows no dialog, or it closed on the very puzzle it opened with, the game
+// is dealt here, from the first sample picture if there is still no usable
+// one.
 void PideImagenYBaraja() {
+    PuzzleCambiado = FALSO;
     PulsaBoton(2);
-    CargaImagenDeMuestra();
-    PreparaBitmap();
+    if (PuzzleCambiado == FALSO) {
+        CargaImagenDeMuestra();
+        PreparaBitmap();
+    }
 }
 
 // No usable file: the settings of a first run, and the dialog.

@@ -3,12 +3,15 @@
 // and starts again afterwards, whatever state it had.
 //
 // The help window isn't modal: the clock runs again as soon as it is up.
-// The dialog AbrirFic and the book Historic are not part of the game yet:
-// until they come, their buttons only go down and up again, with the clock
-// stopped and restarted, and nothing else happens.
+// The book Historic is not part of the game yet: until it comes, its button
+// only goes down and up again, with the clock stopped and restarted, and
+// nothing else happens.
 #include "core/PuzzGbl.h"
+#include "cutting/Corte.h"
+#include "dialog/ServiciosDialogo.h"
 #include "panels/Cronometro.h"
 #include "panels/Ordenes.h"
+#include "panels/Paneles.h"
 #include "services/Ayuda.h"
 
 using namespace PuzzGbl;
@@ -21,10 +24,18 @@ void AbreAyuda() {
     MarcaBoton(1, false);
 }
 
+// AbrirFic says on closing whether the puzzle must be dealt anew; the
+// buttons' allocation may have changed whatever else did.
 void PersonalizaAplicacion() {
     PonEspera();
     MarcaBoton(2, true);
     ParaCronometro();
+    PuzzleCambiado = FALSO;
+    AbreDialogoAbrirFic();
+    if (PuzzleCambiado != FALSO) {
+        PreparaBitmap();
+    }
+    DibujaBotonesSiempre();
     ArrancaCronometro();
     MarcaBoton(2, false);
     QuitaEspera();

@@ -1,0 +1,36 @@
+// AbrirFic's what's-this mode and the pointing hand of its controls.
+#include "dialog/FormAbrirFic.h"
+#include "services/Ayuda.h"
+#include "services/Sonidos.h"
+
+namespace {
+// The arrow with a question mark.
+constexpr int16_t PUNTERO_PREGUNTA = 14;
+} // namespace
+
+void FormAbrirFic::Bot_QueEs_Click() {
+    ModoQueEs = -1;
+    MousePointer = PUNTERO_PREGUNTA;
+}
+
+bool FormAbrirFic::AtiendeQueEs(int16_t tema) {
+    if (ModoQueEs == 0) {
+        return false;
+    }
+    ModoQueEs = 0;
+    MousePointer = PUNTERO_NORMAL;
+    MuestraAyuda(tema != 0 ? tema : TEMA_DIALOGO);
+    return true;
+}
+
+void FormAbrirFic::PonManoSiNormal(ControlDialogo &control) {
+    if (control.MousePointer == PUNTERO_NORMAL) {
+        PonCursor(control, "ManoIndice");
+    }
+}
+
+void FormAbrirFic::PonManoSiNormal(Superficie &control) {
+    if (control.MousePointer == PUNTERO_NORMAL) {
+        PonCursor(control, "ManoIndice");
+    }
+}

@@ -1,0 +1,207 @@
+// AbrirFic: the controls laid out as the form is created.
+#include "dialog/FormAbrirFic.h"
+
+#include <filesystem>
+
+#include "core/PuzzGbl.h"
+#include "core/Sesion.h"
+#include "dialog/ServiciosDialogo.h"
+#include "services/Sonidos.h"
+
+namespace {
+
+constexpr Color GRIS = 0xC0C0C0;
+constexpr Color AMARILLO = 0x00FFFF;
+constexpr Color AZUL = 0xFF0000;
+
+// The places of the six shape or colour boxes in their panel.
+constexpr int32_t CAJA_X[6] = {13, 58, 103, 13, 58, 103};
+constexpr int32_t CAJA_Y[6] = {30, 30, 30, 75, 75, 75};
+
+// The frames of the button placement page.
+constexpr int32_t MARCO_X[12] = {0, 32, 32, 33, 32, 235, 235, 235, 235, 438, 438, 438};
+constexpr int32_t MARCO_Y[12] = {0, 24, 138, 252, 366, 24, 138, 252, 366, 24, 138, 252};
+
+SuperficieDialogo Pic(const std::string &nombre, const std::string &padre, int32_t l, int32_t t,
+                      int32_t w, int32_t h, Color fondo = GRIS, bool borde = true) {
+    SuperficieDialogo s(nombre, padre, l, t, w, h, fondo, borde);
+    s.Letra.Negrita = true;
+    s.WhatsThisHelpID = TEMA_DIALOGO;
+    s.HelpContextID = TEMA_OTROS;
+    return s;
+}
+
+// The name of element i of a control array.
+std::string Elemento(const char *nombre, int i) {
+    std::string s(nombre);
+    s += '(';
+    s += std::to_string(i);
+    s += ')';
+    return s;
+}
+
+void Coloca(ControlDialogo &c, const std::string &nombre, const std::string &padre, int32_t l,
+            int32_t t, int32_t w, int32_t h, int16_t tema) {
+    c.Nombre = nombre;
+    c.Padre = padre;
+    c.Move(l, t);
+    c.Width = w;
+    c.Height = h;
+    c.WhatsThisHelpID = tema;
+    c.HelpContextID = TEMA_OTROS;
+}
+
+void Boton(BotonDialogo &b, const std::string &caption, double puntos, bool negrita) {
+    b.Caption = caption;
+    b.Letra.Tamano = puntos;
+    b.Letra.Negrita = negrita;
+}
+
+void Temas(SuperficieDialogo &s, int16_t queEs, int16_t f1 = TEMA_OTROS) {
+    s.WhatsThisHelpID = queEs;
+    s.HelpContextID = f1;
+}
+
+} // namespace
+
+FormAbrirFic::FormAbrirFic() {
+    ColocaControles();
+    ColocaPaginaBotones();
+    if (ServiciosDelDialogo().CargaTira != nullptr) {
+        ServiciosDelDialogo().CargaTira(Pic_BmpVario);
+    }
+    // The lists start on the process's current folder, as the platform's
+    // lists do; the opening then moves them.
+    std::error_code ec;
+    const std::string aqui = std::filesystem::current_path(ec).string();
+    Drive1.Inicia(UnidadDeCarpeta(aqui));
+    Dir1.PonPath(aqui);
+    File1.PonPath(aqui);
+    Drive1.Change = [this] { Drive1_Change(); };
+    Dir1.Change = [this] { Dir1_Change(); };
+    File1.Click = [this] { File1_Click(); };
+    File1.DblClick = [this] { File1_DblClick(); };
+    Lis_NroPiezas.Click = [this] { Lis_NroPiezas_Click(); };
+}
+
+void FormAbrirFic::ColocaControles() {
+    Formulario = Pic("AbrirFic", "", 0, 0, 640, 480, GRIS, false);
+    Temas(Formulario, TEMA_DIALOGO, TEMA_DIALOGO);
+
+    Pic_ImagenPuzz = Pic("Pic_ImagenPuzz", "", 5, 6, 260, 468);
+    Temas(Pic_ImagenPuzz, 1231, 1231);
+    Coloca(Drive1, "Drive1", "Pic_ImagenPuzz", 8, 27, 240, 21, 1231);
+    Coloca(Dir1, "Dir1", "Pic_ImagenPuzz", 8, 52, 118, 111, 1231);
+    Coloca(File1, "File1", "Pic_ImagenPuzz", 130, 52, 118, 110, 1231);
+    File1.Pattern = "*.bmp;*.rle;*.wmf;*.emf;*.jpg";
+    Coloca(Bot_Portapapeles, "Bot_Portapapeles", "Pic_ImagenPuzz", 8, 178, 240, 22, 1232);
+    Boton(Bot_Portapapeles, "Cargar imagen del Portapapeles", 9.75, false);
+    Pic_Modelo = Pic("Pic_Modelo", "Pic_ImagenPuzz", 8, 209, 240, 180, COLOR_BLANCO);
+    Temas(Pic_Modelo, 1231);
+    Pic_Zoom = Pic("Pic_Zoom", "Pic_ImagenPuzz", 8, 395, 152, 64);
+    Temas(Pic_Zoom, 1233);
+    Pic_PorcZoom = Pic("Pic_PorcZoom", "Pic_Zoom", 68, 28, 38, 23);
+    Pic_PorcZoom.ForeColor = AZUL;
+    Temas(Pic_PorcZoom, 1233);
+    Pic_DatosBmp = Pic("Pic_DatosBmp", "Pic_ImagenPuzz", 163, 395, 85, 64, 0x80FFFF);
+    Pic_DatosBmp.ForeColor = AZUL;
+    Temas(Pic_DatosBmp, 1233);
+
+    Pic_TiposPuz = Pic("Pic_TiposPuz", "", 282, 6, 152, 124);
+    Temas(Pic_TiposPuz, 1235);
+    Pic_Colorfon = Pic("Pic_Colorfon", "", 282, 145, 152, 124);
+    Temas(Pic_Colorfon, 1236);
+    for (int i = 0; i < 6; ++i) {
+        Pic_TipPuz[i] =
+            Pic(Elemento("Pic_TipPuz", i), "Pic_TiposPuz", CAJA_X[i], CAJA_Y[i], 32, 32, AMARILLO);
+        Temas(Pic_TipPuz[i], 1235);
+        Pic_ColFon[i] = Pic(Elemento("Pic_ColFon", i), "Pic_Colorfon", CAJA_X[i], CAJA_Y[i], 32, 32,
+                            static_cast<Color>(PuzzGbl::ColoresFondo[i]));
+        Temas(Pic_ColFon[i], 1236);
+    }
+    Coloca(Rec_MarcaTip, "Rec_MarcaTip", "Pic_TiposPuz", 0, 0, 37, 36, 1235);
+    Coloca(Rec_MarcaCol, "Rec_MarcaCol", "Pic_Colorfon", 0, 0, 37, 36, 1236);
+
+    Pic_FactorPegado = Pic("Pic_FactorPegado", "", 282, 284, 152, 190);
+    Temas(Pic_FactorPegado, 1237);
+    Pic_PorcFactorPegado = Pic("Pic_PorcFactorPegado", "Pic_FactorPegado", 68, 28, 38, 23);
+    Pic_PorcFactorPegado.ForeColor = AZUL;
+    Temas(Pic_PorcFactorPegado, 1237);
+    Pic_Prueba = Pic("Pic_Prueba", "Pic_FactorPegado", 6, 60, 137, 121);
+    Pic_Prueba.RellenaFiguras = true;
+    Pic_Prueba.FillColor = 0x0080FF;
+    Temas(Pic_Prueba, 1237, 1603);
+    Coloca(Bot_Prueba, "Bot_Prueba", "Pic_Prueba", 22, 88, 90, 23, 1237);
+    Boton(Bot_Prueba, "Prueba", 9.75, true);
+    Pic_PruebaPeq = Pic("Pic_PruebaPeq", "Pic_Prueba", 97, 4, 32, 27, AMARILLO);
+    Temas(Pic_PruebaPeq, 1237);
+
+    Coloca(Bot_Botones, "Bot_Botones", "", 449, 7, 148, 23, 1242);
+    Boton(Bot_Botones, "Personalizar botones >>", 8.25, false);
+    Coloca(Bot_QueEs, "Bot_QueEs", "", 603, 7, 23, 23, TEMA_DIALOGO);
+    Boton(Bot_QueEs, "?", 12, true);
+    Pic_NroPiezas = Pic("Pic_NroPiezas", "", 449, 37, 177, 155);
+    Temas(Pic_NroPiezas, 1234);
+    Coloca(Lis_NroPiezas, "Lis_NroPiezas", "Pic_NroPiezas", 9, 25, 156, 121, 1234);
+
+    Pic_Cronometro = Pic("Pic_Cronometro", "", 449, 196, 178, 42, GRIS, false);
+    Pic_Sonido = Pic("Pic_Sonido", "", 449, 241, 178, 42, GRIS, false);
+    Pic_Pistas = Pic("Pic_Pistas", "", 449, 286, 178, 42, GRIS, false);
+    Temas(Pic_Cronometro, 1239);
+    Temas(Pic_Sonido, 1240);
+    Temas(Pic_Pistas, 1241);
+    for (SuperficieDialogo *s : {&Pic_Cronometro, &Pic_Sonido, &Pic_Pistas}) {
+        s->Letra.Negrita = false;
+    }
+    Pic_Velocidad = Pic("Pic_Velocidad", "", 462, 338, 152, 64);
+    Temas(Pic_Velocidad, 1238);
+    Pic_PorcVelocidad = Pic("Pic_PorcVelocidad", "Pic_Velocidad", 68, 28, 38, 23);
+    Pic_PorcVelocidad.ForeColor = AZUL;
+    Temas(Pic_PorcVelocidad, 1238);
+    Pic_No = Pic("Pic_No", "", 462, 414, 56, 56);
+    Pic_Si = Pic("Pic_Si", "", 558, 414, 56, 56);
+    Temas(Pic_No, TEMA_DIALOGO, TEMA_DIALOGO);
+    Temas(Pic_Si, TEMA_DIALOGO, TEMA_DIALOGO);
+
+    Pic_Comprobar = Pic("Pic_Comprobar", "", 0, 0, 0, 0, COLOR_BLANCO, false);
+    Pic_Comprobar.TomaTamanoDeImagen = true;
+    Pic_Comprobar.Visible = false;
+    Pic_OriginMem = Pic("Pic_OriginMem", "", 0, 0, 0, 0, COLOR_BLANCO, false);
+    Pic_OriginMem.TomaTamanoDeImagen = true;
+    Pic_OriginMem.Visible = false;
+    Pic_BmpVario = Pic("Pic_BmpVario", "", 0, 0, 318, 24, GRIS, false);
+    Pic_BmpVario.Visible = false;
+}
+
+void FormAbrirFic::ColocaPaginaBotones() {
+    Pic_LugarBotones = Pic("Pic_LugarBotones", "", 0, 0, 640, 480, GRIS, false);
+    Pic_LugarBotones.Visible = false;
+    Temas(Pic_LugarBotones, 1242, 1242);
+    for (int i = 1; i <= 11; ++i) {
+        const std::string marco = Elemento("Picture2", i);
+        Picture2[i] = Pic(marco, "Pic_LugarBotones", MARCO_X[i], MARCO_Y[i], 171, 90);
+        Temas(Picture2[i], 1242, 1242);
+        Coloca(Lab_Botones[i], Elemento("Lab_Botones", i), marco, 4, 4, 159, 18, 1242);
+        Lab_Botones[i].Letra = Fuente{"Arial", 9, true};
+        Lab_Botones[i].ForeColor = AZUL;
+        Lab_Botones[i].BackColor = GRIS;
+        Pic_BotLugBot[i] = Pic(Elemento("Pic_BotLugBot", i), marco, 4, 26, 56, 56);
+        Temas(Pic_BotLugBot[i], 1242, 1242);
+        Coloca(Opt_Siempre[i], Elemento("Opt_Siempre", i), marco, 68, 34, 92, 18, 1242);
+        Opt_Siempre[i].Caption = "Siempre visible";
+        Coloca(Opt_Derecho[i], Elemento("Opt_Derecho", i), marco, 68, 58, 93, 18, 1242);
+        Opt_Derecho[i].Caption = "Botón derecho";
+        for (ControlDialogo *c : std::initializer_list<ControlDialogo *>{
+                 &Lab_Botones[i], &Opt_Siempre[i], &Opt_Derecho[i]}) {
+            c->HelpContextID = 1242;
+        }
+    }
+    Pic_SalirPicBotones = Pic("Pic_SalirPicBotones", "Pic_LugarBotones", 553, 400, 56, 56);
+    Temas(Pic_SalirPicBotones, 1242, 1242);
+}
+
+void FormAbrirFic::Refresca() {
+    if (AlRefrescar) {
+        AlRefrescar();
+    }
+}

@@ -1,0 +1,45 @@
+// The dialog's hooks to the desktop, and its opening from command 2.
+#include "dialog/ServiciosDialogo.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "core/Sesion.h"
+#include "dialog/FormAbrirFic.h"
+
+namespace {
+ServiciosDialogo servicios;
+}
+
+void PonServiciosDialogo(const ServiciosDialogo &s) {
+    servicios = s;
+}
+
+const ServiciosDialogo &ServiciosDelDialogo() {
+    return servicios;
+}
+
+std::vector<std::string> UnidadesDisponibles() {
+    if (servicios.Unidades != nullptr) {
+        return servicios.Unidades();
+    }
+    // Without the platform's list: the root and the volume of the home
+    // folder, when that is another one.
+    std::vector<std::string> unidades{"/"};
+    if (const char *home = std::getenv("HOME"); home != nullptr && *home != '\0') {
+        const std::string suya = UnidadDeCarpeta(home);
+        if (!suya.empty() && std::find(unidades.begin(), unidades.end(), suya) == unidades.end()) {
+            unidades.push_back(suya);
+        }
+    }
+    return unidades;
+}
+
+void AbreDialogoAbrirFic() {
+    if (servicios.MuestraModal == nullptr) {
+        return;
+    }
+    FormAbrirFic AbrirFic;
+    AbrirFic.Form_Load();
+    servicios.MuestraModal(AbrirFic);
+}

@@ -1,0 +1,306 @@
+// AbrirFic's opening and its two ways out: what each change does to the
+// running game on Accept, Reject putting everything back, the pictures that
+// keep the dialog open, and command 2 around it.
+#include "dialogo_comun.h"
+#include "panels/Comandos.h"
+
+using namespace PuzzGbl;
+using sesion_prueba::mensajes;
+using sesion_prueba::sonidos;
+
+namespace {
+
+constexpr float SUBE_X = 120, SUBE_Y = 30, BAJA_X = 120, BAJA_Y = 46;
+
+struct Cambio {
+    const char *nombre;
+    std::function<void(FormAbrirFic &)> haz;
+    bool cambiaPuzzle; // PuzzleCambiado on Accept
+    bool barrasA0;     // the scroll bars and the clock go back to 0
+    bool anulaPartida; // PartidaValida false
+};
+
+const Cambio cambios[] = {
+    {"nada", [](FormAbrirFic &) {}, false, false, false},
+    {"imagen",
+     [](FormAbrirFic &f) {
+         f.File1.PonListIndex(1); // b.bmp
+     },
+     true, true, false},
+    {"rejilla", [](FormAbrirFic &f) { f.Lis_NroPiezas.PonListIndex(0); }, true, true, false},
+    {"forma", [](FormAbrirFic &f) { f.Pic_TipPuz_Click(4); }, true, true, false},
+    {"zoom", [](FormAbrirFic &f) { f.Pic_Zoom_MouseDown(1, 0, BAJA_X, BAJA_Y); }, true, true,
+     false},
+    {"color", [](FormAbrirFic &f) { f.Pic_ColFon_Click(5); }, true, false, false},
+    {"atraccion", [](FormAbrirFic &f) { f.Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y); },
+     false, false, true},
+    {"atraccion y rejilla",
+     [](FormAbrirFic &f) {
+         f.Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y);
+         f.Lis_NroPiezas.PonListIndex(0);
+     },
+     true, true, true},
+    {"velocidad", [](FormAbrirFic &f) { f.Pic_Velocidad_MouseDown(1, 0, BAJA_X, BAJA_Y); }, false,
+     false, false},
+    {"sonido", [](FormAbrirFic &f) { f.Pic_Sonido_MouseDown(1, 0, 10, 25); }, false, false, false},
+    {"pistas", [](FormAbrirFic &f) { f.Pic_Pistas_MouseDown(1, 0, 10, 25); }, false, false, false},
+    {"cronometro", [](FormAbrirFic &f) { f.Pic_Cronometro_MouseDown(1, 0, 10, 25); }, false, false,
+     false},
+    {"botones",
+     [](FormAbrirFic &f) {
+         f.Bot_Botones_Click();
+         f.Opt_Derecho_Click(4);
+         f.Pic_SalirPicBotones_Click();
+     },
+     false, false, false},
+};
+
+// Everything the dialog may touch, to compare before and after.
+struct Estado {
+    std::string fichero, nombre;
+    std::array<int16_t, 10> valores;
+    std::array<bool, 12> siempre, derecho;
+    uint64_t origen;
+    bool operator==(const Estado &) const = default;
+};
+
+Estado EstadoActual() {
+    return {FicheroImagen,
+            NombreImagen,
+            {PiezasPorLado, TipoPieza, PiezasDobles, Sonido, Cronometro, Pistas, ColorFondo,
+             FactorPegado, Velocidad, Zoom},
+            BotonEnSiempre,
+            BotonEnDerecho,
+            Huella(teselari.Pic_Origin)};
+}
+
+class AceptarYRechazar : public Dialogo, public ::testing::WithParamInterface<Cambio> {
+  protected:
+    void SetUp() override {
+        Dialogo::SetUp();
+        EscribeBmp("b.bmp", 800, 600);
+        Velocidad = 90;
+        Cronometro = 1;
+        PartidaValida = VERDADERO;
+        SegundosCronometro = 77;
+        for (BarraDesplazamiento *b : {&teselari.BarraHor, &teselari.BarraVer}) {
+            b->PonMax(100);
+            b->PonValue(30);
+        }
+        antes = EstadoActual();
+        Abre();
+        ASSERT_EQ(EstadoActual(), antes) << "the opening changed the game";
+        GetParam().haz(*f);
+    }
+    Estado antes;
+};
+
+} // namespace
+
+TEST_P(AceptarYRechazar, AceptarDiceAlJuegoLoQueCambio) {
+    const Cambio &c = GetParam();
+    f->Pic_Si_MouseDown(1, 0, 5, 5);
+    ASSERT_TRUE(f->Descargado());
+    EXPECT_EQ(PuzzleCambiado, c.cambiaPuzzle ? VERDADERO : FALSO);
+    EXPECT_EQ(teselari.BarraHor.Value(), c.barrasA0 ? 0 : 30);
+    EXPECT_EQ(teselari.BarraVer.Value(), c.barrasA0 ? 0 : 30);
+    EXPECT_EQ(SegundosCronometro, c.barrasA0 ? 0 : 77);
+    EXPECT_EQ(PartidaValida, c.anulaPartida ? FALSO : VERDADERO);
+    EXPECT_EQ(teselari.Pic_Cronome.Visible, Cronometro != 2);
+    EXPECT_EQ(teselari.MousePointer, PUNTERO_ESPERA);
+}
+
+TEST_P(AceptarYRechazar, RechazarDejaElJuegoComoEstaba) {
+    f->Pic_No_MouseDown(1, 0, 5, 5);
+    ASSERT_TRUE(f->Descargado());
+    EXPECT_EQ(EstadoActual(), antes);
+    EXPECT_EQ(PuzzleCambiado, FALSO);
+    EXPECT_EQ(PartidaValida, VERDADERO);
+    EXPECT_EQ(SegundosCronometro, 77);
+    EXPECT_EQ(teselari.BarraHor.Value(), 30);
+    EXPECT_EQ(teselari.MousePointer, PUNTERO_NORMAL);
+    EXPECT_EQ(NroPiezas, PiezasPorLado * PiezasPorLado * (1 + PiezasDobles));
+}
+
+INSTANTIATE_TEST_SUITE_P(Cambios, AceptarYRechazar, ::testing::ValuesIn(cambios),
+                         [](const auto &i) {
+                             std::string n = i.param.nombre;
+                             std::replace(n.begin(), n.end(), ' ', '_');
+                             return n;
+                         });
+
+TEST_F(Dialogo, RechazarTrasUnaImagenNoValidaInsisteHastaUnaValida) {
+    EscribeBmp("mini.bmp", 20, 20);
+    EscribeBmp("b.bmp", 800, 600);
+    const std::string fichero = FicheroImagen;
+    Abre();
+    Elige("mini.bmp");
+    ASSERT_EQ(ImagenValida, FALSO);
+    mensajes.clear();
+    for (int i = 0; i < 2; ++i) {
+        f->Pic_No_MouseDown(1, 0, 5, 5);
+        f->Pic_Si_MouseDown(1, 0, 5, 5);
+    }
+    EXPECT_FALSE(f->Descargado());
+    ASSERT_EQ(mensajes.size(), 4u); // the refusal, once per press
+    EXPECT_EQ(mensajes[3].titulo, "Imagen no válida");
+    Elige("b.bmp");
+    f->Pic_No_MouseDown(1, 0, 5, 5);
+    EXPECT_TRUE(f->Descargado());
+    EXPECT_EQ(FicheroImagen, fichero);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 640);
+    // The folder of the last choice stays for the next opening.
+    EXPECT_EQ(CarpetaImagen, fotos);
+}
+
+TEST_F(Dialogo, SinImagenUtilizableNoSePuedeSalir) {
+    const std::string vacia = raiz + "/vacia";
+    std::filesystem::create_directories(vacia);
+    ImagenValida = FALSO;
+    CarpetaImagen = vacia;
+    Abre();
+    for (int i = 0; i < 3; ++i) {
+        f->Pic_Si_MouseDown(1, 0, 5, 5);
+        f->Pic_No_MouseDown(1, 0, 5, 5);
+    }
+    EXPECT_FALSE(f->Descargado());
+    EXPECT_TRUE(mensajes.empty());
+    // A usable picture: Reject still has no game to go back to; Accept does.
+    f->Dir1.PonPath(fotos);
+    Elige("a.bmp");
+    f->Pic_No_MouseDown(1, 0, 5, 5);
+    EXPECT_FALSE(f->Descargado());
+    f->Pic_Si_MouseDown(1, 0, 5, 5);
+    EXPECT_TRUE(f->Descargado());
+}
+
+TEST_F(Dialogo, AbrirDondeNoEstaLaImagenTomaLaPrimeraComoUnClick) {
+    EscribeBmp("0.bmp", 640, 480);
+    NombreImagen = "otra.bmp";
+    Abre();
+    EXPECT_EQ(NombreImagen, "0.bmp");
+    EXPECT_EQ(FicheroImagen, fotos + "/0.bmp");
+    EXPECT_NE(std::find(sonidos.begin(), sonidos.end(), 12), sonidos.end());
+    f->Pic_Si_MouseDown(1, 0, 5, 5);
+    EXPECT_EQ(PuzzleCambiado, VERDADERO);
+}
+
+TEST_F(Dialogo, AbrirEnCarpetaVaciaNoEvaluaNada) {
+    const std::string vacia = raiz + "/vacia";
+    std::filesystem::create_directories(vacia);
+    CarpetaImagen = vacia;
+    Abre();
+    EXPECT_EQ(f->File1.ListCount(), 0);
+    EXPECT_EQ(f->Pic_Comprobar.Ancho(), 0);
+    EXPECT_EQ(f->Pic_Modelo.Point(10, 10), COLOR_BLANCO);
+    EXPECT_TRUE(f->Pic_TipPuz[1].Enabled && f->Pic_TipPuz[5].Enabled);
+    f->Pic_Si_MouseDown(1, 0, 5, 5);
+    EXPECT_TRUE(f->Descargado());
+    EXPECT_EQ(PuzzleCambiado, FALSO);
+    EXPECT_EQ(FicheroImagen, fotos + "/a.bmp");
+}
+
+TEST_F(Dialogo, UnaCarpetaQueYaNoExisteLlevaALaDeTrabajo) {
+    EscribeBmp("../programa/t.bmp", 640, 480);
+    CarpetaImagen = raiz + "/borrada";
+    NombreImagen = "t.bmp";
+    Abre();
+    EXPECT_EQ(f->Dir1.Path(), programa);
+    EXPECT_EQ(f->File1.Text(), "t.bmp");
+    // Found again: quietly, with the stored names.
+    EXPECT_TRUE(mensajes.empty());
+    EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 12), 1); // the folder's change
+}
+
+TEST_F(Dialogo, LaPaginaDeBotonesVuelveAMostrarLoElegido) {
+    BotonEnSiempre.fill(true);
+    BotonEnDerecho.fill(false);
+    Abre();
+    for (int16_t i = 1; i <= 11; ++i) {
+        f->Bot_Botones_Click();
+        f->Opt_Derecho_Click(i);
+        f->Pic_SalirPicBotones_Click();
+        EXPECT_FALSE(f->Pic_LugarBotones.Visible);
+    }
+    // All on the right button's panel: the page allows it.
+    EXPECT_EQ(std::count(BotonEnDerecho.begin() + 1, BotonEnDerecho.end(), true), 11);
+    EXPECT_EQ(std::count(BotonEnSiempre.begin() + 1, BotonEnSiempre.end(), true), 0);
+    f->Bot_Botones_Click();
+    EXPECT_EQ(f->Lab_Botones[11].Caption, "Salir de la aplicación");
+}
+
+TEST_F(Dialogo, QueEsDaElTemaDelControlEnVezDeActuar) {
+    Abre();
+    EXPECT_FALSE(f->AtiendeQueEs(f->Lis_NroPiezas.WhatsThisHelpID));
+    const std::pair<int16_t, int16_t> casos[] = {
+        {f->File1.WhatsThisHelpID, 1231},         {f->Bot_Portapapeles.WhatsThisHelpID, 1232},
+        {f->Pic_PorcZoom.WhatsThisHelpID, 1233},  {f->Lis_NroPiezas.WhatsThisHelpID, 1234},
+        {f->Pic_TipPuz[3].WhatsThisHelpID, 1235}, {f->Pic_ColFon[0].WhatsThisHelpID, 1236},
+        {f->Bot_Prueba.WhatsThisHelpID, 1237},    {f->Pic_PorcVelocidad.WhatsThisHelpID, 1238},
+        {f->Pic_Pistas.WhatsThisHelpID, 1241},    {f->Opt_Siempre[2].WhatsThisHelpID, 1242},
+    };
+    for (const auto &[tema, esperado] : casos) {
+        f->Bot_QueEs_Click();
+        EXPECT_NE(f->MousePointer, PUNTERO_NORMAL);
+        EXPECT_TRUE(f->AtiendeQueEs(tema));
+        EXPECT_EQ(dialogo_prueba::temasAyuda.back(), esperado);
+        EXPECT_EQ(f->MousePointer, PUNTERO_NORMAL);
+        EXPECT_FALSE(f->AtiendeQueEs(tema)); // one click only
+    }
+}
+
+// --- command 2 around the dialog ---
+
+TEST_F(Dialogo, ElComandoDosReparteSiCambiaElPuzzle) {
+    PreparaBitmap();
+    PartidaValida = VERDADERO;
+    SegundosCronometro = 50;
+    dialogo_prueba::alMostrar = [](FormAbrirFic &d) {
+        d.Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y);
+        d.Lis_NroPiezas.PonListIndex(0);
+        d.Pic_Si_MouseDown(1, 0, 5, 5);
+    };
+    PulsaBoton(2);
+    EXPECT_EQ(PiezasPorLado, 5);
+    EXPECT_EQ(NroPiezas, 25);
+    EXPECT_EQ(Piezas.size(), 26u);
+    EXPECT_EQ(PartidaValida, VERDADERO); // the deal runs last
+    EXPECT_EQ(SegundosCronometro, 0);
+    EXPECT_EQ(BotonPulsado[2], FALSO);
+    EXPECT_EQ(teselari.MousePointer, PUNTERO_NORMAL);
+    EXPECT_TRUE(sesion_prueba::PartidaCoherente());
+}
+
+TEST_F(Dialogo, ElComandoDosSinCambiosNoReparte) {
+    PreparaBitmap();
+    const std::vector<Pieza> piezas = Piezas;
+    for (auto cierra : {&FormAbrirFic::Pic_Si_MouseDown, &FormAbrirFic::Pic_No_MouseDown}) {
+        static void (FormAbrirFic::*salida)(int16_t, int16_t, float, float);
+        salida = cierra;
+        dialogo_prueba::alMostrar = [](FormAbrirFic &d) {
+            d.Pic_Velocidad_MouseDown(1, 0, BAJA_X, BAJA_Y);
+            (d.*salida)(1, 0, 5, 5);
+        };
+        PulsaBoton(2);
+        EXPECT_EQ(Piezas, piezas);
+        EXPECT_EQ(PuzzleCambiado, FALSO);
+    }
+    EXPECT_EQ(Velocidad, 95); // kept by Accept, then left alone by Reject
+}
+
+TEST_F(Dialogo, ElPrimerArranqueReparteUnaVezLaImagenElegida) {
+    std::filesystem::remove(programa + "/TESEL32.INI");
+    DirectorioTrabajo = fotos;
+    int aperturas = 0;
+    static int *cuenta;
+    cuenta = &aperturas;
+    dialogo_prueba::alMostrar = [](FormAbrirFic &d) {
+        ++*cuenta;
+        d.Pic_Si_MouseDown(1, 0, 5, 5);
+    };
+    RestauraSesion();
+    EXPECT_EQ(aperturas, 1);
+    EXPECT_EQ(ImagenValida, VERDADERO);
+    EXPECT_EQ(NombreImagen, "a.bmp");
+    EXPECT_TRUE(sesion_prueba::PartidaCoherente());
+}

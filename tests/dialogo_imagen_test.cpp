@@ -1,0 +1,260 @@
+// The picture column of AbrirFic: the zoom that brings a file within the
+// limits, its messages, the shapes the proportions allow, the list
+// controls, the clipboard picture.
+#include <unistd.h>
+
+#include "dialogo_comun.h"
+
+using namespace PuzzGbl;
+using sesion_prueba::mensajes;
+using sesion_prueba::sonidos;
+
+namespace {
+
+struct CasoZoom {
+    int32_t w, h;
+    int16_t zoom;
+    bool valida;
+    int32_t origenW, origenH; // Pic_Origin afterwards (the old one when refused)
+    const char *titulo;       // "" for no message
+    const char *fragmento;
+};
+
+const CasoZoom casosZoom[] = {
+    {320, 240, 100, true, 320, 240, "", ""},
+    {1024, 768, 100, true, 1024, 768, "", ""},
+    {200, 150, 165, true, 330, 247, "Imagen fuera de límites",
+     "( 200 x 150 pixels ) no está dentro de los límites permitidos:"},
+    {1600, 1200, 60, true, 960, 720, "Imagen fuera de límites", "( 1600 x 1200 pixels )"},
+    {319, 240, 105, true, 334, 252, "Imagen fuera de límites", "( 319 x 240 pixels )"},
+    {300, 800, 95, true, 285, 760, "Imagen fuera de límites", "( 300 x 800 pixels )"},
+    {32, 240, 1005, false, 640, 480, "Imagen no válida", "( 32 x 240 pixels)"},
+    {25000, 10, 0, false, 640, 480, "Imagen no válida", "( 25000 x 10 pixels)"},
+};
+
+class ZoomDeFichero : public Dialogo, public ::testing::WithParamInterface<CasoZoom> {};
+
+} // namespace
+
+TEST_P(ZoomDeFichero, LlevaLaImagenALosLimitesORechaza) {
+    const CasoZoom &c = GetParam();
+    EscribeBmp("z.bmp", c.w, c.h);
+    Abre();
+    Elige("z.bmp");
+    EXPECT_EQ(Zoom, c.zoom);
+    EXPECT_EQ(ImagenValida, c.valida ? VERDADERO : FALSO);
+    EXPECT_EQ(NombreImagen, "z.bmp");
+    EXPECT_EQ(FicheroImagen, fotos + "/z.bmp");
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.origenW);
+    EXPECT_EQ(teselari.Pic_Origin.Alto(), c.origenH);
+    if (std::string(c.titulo).empty()) {
+        EXPECT_TRUE(mensajes.empty());
+        return;
+    }
+    ASSERT_EQ(mensajes.size(), 1u);
+    EXPECT_EQ(mensajes[0].titulo, c.titulo);
+    EXPECT_NE(mensajes[0].texto.find(c.fragmento), std::string::npos) << mensajes[0].texto;
+    EXPECT_EQ(mensajes[0].lineas, c.valida ? 8 : 9);
+    // The refusal has its sound; the size shown is the zoomed one.
+    EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 9), c.valida ? 0 : 1);
+    if (c.valida) {
+        EXPECT_EQ(rotulador.Ultimo(f->Pic_DatosBmp), "Alto: " + std::to_string(c.origenH));
+        EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcZoom), std::to_string(c.zoom) + "%");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Tamanos, ZoomDeFichero, ::testing::ValuesIn(casosZoom));
+
+// Pieces with knobs want proportions within 0.476..2.1, stars 0.416..2.4.
+struct CasoFormas {
+    int32_t w, h;
+    int16_t tipoAntes, tipoDespues;
+    bool conPestanas, estrellas;
+};
+
+class FormasPorProporcion : public Dialogo, public ::testing::WithParamInterface<CasoFormas> {};
+
+TEST_P(FormasPorProporcion, ApaganLasFormasQueNoCaben) {
+    const CasoFormas &c = GetParam();
+    EscribeBmp("p.bmp", c.w, c.h);
+    TipoPieza = c.tipoAntes;
+    PiezasDobles = c.tipoAntes > 1 ? 1 : 0;
+    Abre();
+    Elige("p.bmp");
+    EXPECT_EQ(TipoPieza, c.tipoDespues);
+    EXPECT_EQ(f->Pic_TipPuz[1].Enabled, c.conPestanas);
+    EXPECT_EQ(f->Pic_TipPuz[5].Enabled, c.estrellas);
+    EXPECT_EQ(f->Rec_MarcaTip.Left, f->Pic_TipPuz[c.tipoDespues].Left - 2);
+    EXPECT_EQ(f->Rec_MarcaTip.Top, f->Pic_TipPuz[c.tipoDespues].Top - 2);
+    // Going back to a square picture gives every shape back.
+    Elige("a.bmp");
+    EXPECT_TRUE(f->Pic_TipPuz[1].Enabled && f->Pic_TipPuz[5].Enabled);
+}
+
+INSTANTIATE_TEST_SUITE_P(Proporciones, FormasPorProporcion,
+                         ::testing::Values(CasoFormas{1000, 300, 1, 0, false, false},
+                                           CasoFormas{1000, 300, 5, 0, false, false},
+                                           CasoFormas{700, 300, 1, 0, false, true},
+                                           CasoFormas{700, 300, 5, 5, false, true},
+                                           CasoFormas{300, 700, 3, 3, false, true},
+                                           CasoFormas{630, 300, 1, 1, true, true}));
+
+// --- list controls ---
+
+TEST(ListaDialogo, ElClickSoloAlCambiarAOtraEntrada) {
+    ListaDialogo l;
+    int clicks = 0;
+    l.Click = [&clicks] { ++clicks; };
+    for (const char *t : {"uno", "dos", "tres"}) {
+        l.AddItem(t);
+    }
+    struct Paso {
+        int32_t asigna, indice, clicks;
+    };
+    const Paso pasos[] = {{1, 1, 1}, {1, 1, 1}, {2, 2, 2}, {-1, -1, 2}, {0, 0, 3}, {7, -1, 3}};
+    for (const Paso &p : pasos) {
+        l.PonListIndex(p.asigna);
+        EXPECT_EQ(l.ListIndex(), p.indice) << p.asigna;
+        EXPECT_EQ(clicks, p.clicks) << p.asigna;
+    }
+    // The player's click counts also on the selected entry.
+    l.Pulsa(0);
+    l.Pulsa(2);
+    EXPECT_EQ(l.ListIndex(), 2);
+    EXPECT_EQ(clicks, 5);
+    l.Clear();
+    EXPECT_EQ(l.ListIndex(), -1);
+    EXPECT_EQ(l.ListCount(), 0);
+    EXPECT_EQ(clicks, 5);
+}
+
+TEST_F(Dialogo, ElMismoFicheroOtraVezDevuelveSuZoom) {
+    EscribeBmp("p.bmp", 200, 150);
+    Abre();
+    Elige("p.bmp");
+    ASSERT_EQ(Zoom, 165);
+    f->Pic_Zoom_MouseDown(1, 0, 120, 30);
+    ASSERT_EQ(Zoom, 170);
+    f->File1.Pulsa(f->File1.ListIndex());
+    EXPECT_EQ(Zoom, 165);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 330);
+}
+
+TEST(ListaDialogo, PatronDeImagenesSinMayusculas) {
+    const std::string patron = "*.bmp;*.rle;*.wmf;*.emf;*.jpg";
+    const std::pair<const char *, bool> casos[] = {
+        {"a.bmp", true},   {"A.BMP", true},   {"foto.Jpg", true}, {"x.rle", true},
+        {"y.WMF", true},   {"z.emf", true},   {"a.png", false},   {"bmp", false},
+        {"a.bmpx", false}, {"a.jpeg", false}, {".bmp", true},     {"a.b.jpg", true},
+    };
+    for (const auto &[nombre, sale] : casos) {
+        EXPECT_EQ(CoincideConPatron(nombre, patron), sale) << nombre;
+    }
+    EXPECT_TRUE(CoincideConPatron("r2d2.txt", "r?d?.*"));
+    EXPECT_FALSE(CoincideConPatron("r2d.txt", "r?d?.*"));
+}
+
+TEST_F(Dialogo, File1ListaLasImagenesOrdenadasSinMayusculas) {
+    for (const char *n : {"B.JPG", "c.Bmp", "a.emf", "d.png", ".oculta.bmp", "e.txt"}) {
+        sesion_prueba::EscribeFichero(fotos + "/" + n, "x");
+    }
+    std::filesystem::create_directories(fotos + "/carpeta.bmp");
+    ListaFicheros l;
+    l.Pattern = "*.bmp;*.rle;*.wmf;*.emf;*.jpg";
+    l.PonPath(fotos);
+    EXPECT_EQ(l.Elementos(), (std::vector<std::string>{"a.bmp", "a.emf", "B.JPG", "c.Bmp"}));
+    EXPECT_EQ(l.ListIndex(), -1);
+}
+
+TEST_F(Dialogo, UnaCarpetaIlegibleDejaLasListasVacias) {
+    const std::string cerrada = raiz + "/cerrada";
+    std::filesystem::create_directories(cerrada + "/dentro");
+    EscribeBmp("../cerrada/x.bmp", 320, 240);
+    ::chmod(cerrada.c_str(), 0);
+    const bool legible = ::access(cerrada.c_str(), R_OK) == 0; // root reads anyway
+    ListaFicheros fic;
+    fic.Pattern = "*.bmp";
+    ListaCarpetas dir;
+    for (const std::string &ruta : {cerrada, raiz + "/no_existe", fotos + "/a.bmp"}) {
+        fic.PonPath(ruta);
+        if (ruta != cerrada || !legible) {
+            EXPECT_EQ(fic.ListCount(), 0) << ruta;
+        }
+    }
+    EXPECT_EQ(dir.PonPath(raiz + "/no_existe"), 76);
+    EXPECT_EQ(dir.PonPath(fotos + "/a.bmp"), 76);
+    EXPECT_EQ(dir.PonPath(cerrada), 0);
+    EXPECT_EQ(dir.Path(), cerrada);
+    if (!legible) {
+        EXPECT_EQ(dir.ListCount(), dir.IndiceActual() + 1); // no sub-folder shown
+    }
+    ::chmod(cerrada.c_str(), 0755);
+}
+
+TEST_F(Dialogo, Dir1SubeYEntraYLaCarpetaDelProcesoLaSigue) {
+    std::filesystem::create_directories(fotos + "/sub");
+    EscribeBmp("sub/s.bmp", 320, 240);
+    Abre();
+    ASSERT_EQ(f->Dir1.Path(), fotos);
+    const int32_t sub = f->Dir1.IndiceActual() + 1;
+    ASSERT_EQ(f->Dir1.List(sub), "sub");
+    sonidos.clear();
+    f->Dir1.Abre(sub);
+    EXPECT_EQ(std::filesystem::current_path(), fotos + "/sub");
+    EXPECT_EQ(f->File1.Elementos(), std::vector<std::string>{"s.bmp"});
+    EXPECT_EQ(f->File1.ListIndex(), -1);
+    EXPECT_EQ(sonidos, std::vector<int16_t>{12});
+    // A new folder alone changes no picture.
+    EXPECT_EQ(CarpetaImagen, fotos);
+    f->Dir1.Sube();
+    EXPECT_EQ(f->Dir1.Path(), fotos);
+    EXPECT_EQ(std::filesystem::current_path(), fotos);
+}
+
+// --- clipboard ---
+
+namespace {
+bool ConImagen() {
+    return true;
+}
+bool TomaImagen(Superficie &s) {
+    PintaImagenGenerada(s, 400, 300);
+    return true;
+}
+} // namespace
+
+TEST_F(Dialogo, ElPortapapelesPasaPorTeseportComoCualquierFichero) {
+    PonServiciosDialogo({dialogo_prueba::MuestraModalDePrueba, nullptr, ConImagen, TomaImagen});
+    Abre();
+    EXPECT_TRUE(f->Bot_Portapapeles.Enabled);
+    f->Bot_Portapapeles_Click();
+    EXPECT_EQ(NombreImagen, "teseport.bmp");
+    EXPECT_EQ(f->File1.Text(), "teseport.bmp");
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 400);
+    // The file on disc is a real bitmap with the clipboard's pixels.
+    Superficie leida, esperada;
+    ASSERT_TRUE(dialogo_prueba::CargadorBmp(fotos + "/teseport.bmp", leida));
+    PintaImagenGenerada(esperada, 400, 300);
+    EXPECT_EQ(leida.Pixeles(), esperada.Pixeles());
+    // Accepting saves the picture again, over the file.
+    std::filesystem::remove(fotos + "/teseport.bmp");
+    f->Pic_Si_MouseDown(1, 0, 10, 10);
+    EXPECT_TRUE(f->Descargado());
+    EXPECT_TRUE(std::filesystem::exists(fotos + "/teseport.bmp"));
+}
+
+TEST(GuardaBmp, FilasDeCualquierAnchoVuelvenIguales) {
+    for (int32_t w : {1, 2, 3, 4, 5, 17}) {
+        Superficie s, leida;
+        PintaImagenGenerada(s, w, 3);
+        const std::string ruta = "/tmp/teselari-guardabmp-" + std::to_string(w) + ".bmp";
+        ASSERT_TRUE(GuardaBmp(s, ruta));
+        const size_t fila = (static_cast<size_t>(w) * 3 + 3) / 4 * 4;
+        EXPECT_EQ(std::filesystem::file_size(ruta), 54 + fila * 3);
+        ASSERT_TRUE(dialogo_prueba::CargadorBmp(ruta, leida));
+        EXPECT_EQ(leida.Pixeles(), s.Pixeles()) << w;
+        std::filesystem::remove(ruta);
+    }
+    Superficie s(4, 4);
+    EXPECT_FALSE(GuardaBmp(s, "/tmp/no-existe-esta-carpeta/x.bmp"));
+}

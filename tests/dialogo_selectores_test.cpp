@@ -1,0 +1,287 @@
+// The grids offered, the steppers with their repeat and the zoom's limit,
+// the attraction test and the two-state selectors of AbrirFic.
+#include "dialog/Rejillas.h"
+#include "dialogo_comun.h"
+
+using namespace PuzzGbl;
+using sesion_prueba::mensajes;
+using sesion_prueba::sonidos;
+
+namespace {
+
+struct CasoRejillas {
+    int32_t w, h;
+    int16_t primera, ultima;
+};
+
+class Rejillas : public ::testing::TestWithParam<CasoRejillas> {};
+
+// The places of the arrows on a stepper panel.
+constexpr float SUBE_X = 120, SUBE_Y = 30, BAJA_X = 120, BAJA_Y = 46;
+
+} // namespace
+
+TEST_P(Rejillas, CeldasEntre24Y140SinHuecos) {
+    const CasoRejillas &c = GetParam();
+    const std::vector<int16_t> o = RejillasOfrecidas(c.w, c.h);
+    ASSERT_FALSE(o.empty());
+    EXPECT_EQ(o.front(), c.primera);
+    EXPECT_EQ(o.back(), c.ultima);
+    EXPECT_EQ(o.size(), static_cast<size_t>(c.ultima - c.primera + 1));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tamanos, Rejillas,
+    ::testing::Values(CasoRejillas{320, 240, 3, 10}, CasoRejillas{640, 480, 5, 20},
+                      CasoRejillas{800, 600, 6, 20}, CasoRejillas{1024, 768, 8, 20},
+                      CasoRejillas{608, 456, 5, 19}, CasoRejillas{972, 729, 7, 20}));
+
+TEST(RejillaCercana, LaMasProximaYEnEmpateLaMayor) {
+    const std::vector<int16_t> huecos{9, 11};
+    const std::vector<int16_t> seguidas{3, 4, 5, 6, 7, 8, 9, 10};
+    struct Caso {
+        const std::vector<int16_t> &ofrecidas;
+        int16_t actual;
+        int32_t indice;
+    };
+    const Caso casos[] = {{huecos, 10, 1}, {huecos, 9, 0},    {huecos, 3, 0},
+                          {huecos, 20, 1}, {seguidas, 20, 7}, {seguidas, 6, 3}};
+    for (const Caso &c : casos) {
+        EXPECT_EQ(RejillaCercana(c.ofrecidas, c.actual), c.indice) << c.actual;
+    }
+    EXPECT_EQ(RejillaCercana({}, 8), -1);
+}
+
+TEST_F(Dialogo, LaListaSeAjustaALaImagenYConservaLaRejilla) {
+    EscribeBmp("p.bmp", 320, 240);
+    Abre();
+    EXPECT_EQ(f->Lis_NroPiezas.ListCount(), 16); // 5..20
+    EXPECT_EQ(f->Lis_NroPiezas.Text(), CadenaFija(TextoNroPiezas[8], 14));
+    // Rows of double pieces name the same grids and keep the selection.
+    sonidos.clear();
+    f->Pic_TipPuz_Click(2);
+    EXPECT_EQ(f->Lis_NroPiezas.Text(), CadenaFija(TextoNroPiezas[28], 18));
+    EXPECT_EQ(NroPiezas, 128);
+    EXPECT_EQ(sonidos, (std::vector<int16_t>{11, 12}));
+    // A smaller picture cuts the grid down without the player's click.
+    PiezasPorLado = 20;
+    Elige("p.bmp");
+    EXPECT_EQ(PiezasPorLado, 10);
+    EXPECT_EQ(NroPiezas, 200);
+    EXPECT_EQ(f->Lis_NroPiezas.ListCount(), 8);
+}
+
+TEST_F(Dialogo, UnaTiraSinRejillaDejaUnLadoValido) {
+    EscribeBmp("tira.bmp", 2000, 100); // zoom 50: 1000 x 50, no grid fits
+    PiezasPorLado = 8;
+    Abre();
+    Elige("tira.bmp");
+    ASSERT_EQ(ImagenValida, VERDADERO);
+    EXPECT_EQ(Zoom, 50);
+    EXPECT_EQ(f->Lis_NroPiezas.ListCount(), 0);
+    EXPECT_EQ(f->Lis_NroPiezas.ListIndex(), -1);
+    EXPECT_EQ(PiezasPorLado, 8);
+    EXPECT_EQ(NroPiezas, 64);
+}
+
+struct CasoPaso {
+    int16_t desde;
+    bool sube;
+    int16_t hasta;
+};
+
+class PasoFactor : public Dialogo, public ::testing::WithParamInterface<CasoPaso> {};
+
+// Without an event loop a press takes one step.
+TEST_P(PasoFactor, CaeEnMultiploDe5YRespetaLosTopes) {
+    const CasoPaso &c = GetParam();
+    FactorPegado = c.desde;
+    Velocidad = 100;
+    Abre();
+    c.sube ? f->Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y)
+           : f->Pic_FactorPegado_MouseDown(1, 0, BAJA_X, BAJA_Y);
+    EXPECT_EQ(FactorPegado, c.hasta);
+    EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcFactorPegado), std::to_string(c.hasta) + "%");
+    EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 2), c.desde == c.hasta ? 0 : 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Valores, PasoFactor,
+                         ::testing::Values(CasoPaso{52, true, 55}, CasoPaso{52, false, 45},
+                                           CasoPaso{50, true, 55}, CasoPaso{3, false, 0},
+                                           CasoPaso{100, true, 100}, CasoPaso{0, false, 0},
+                                           CasoPaso{98, true, 100}));
+
+namespace {
+FormAbrirFic *enPrueba = nullptr;
+int vueltas = 0;
+int vueltasHastaSoltar = 0;
+// The event loop of these tests: the button is released after some turns.
+void SueltaTrasVueltas() {
+    if (++vueltas == vueltasHastaSoltar) {
+        enPrueba->Pic_Velocidad_MouseUp(1, 0, SUBE_X, SUBE_Y);
+    }
+}
+void SaleDeLaFlecha() {
+    enPrueba->Pic_Velocidad_MouseMove(1, 0, 10, 10);
+}
+} // namespace
+
+TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
+    Velocidad = 80;
+    Abre();
+    enPrueba = f.get();
+    vueltas = 0;
+    vueltasHastaSoltar = 15;
+    PonServiciosPlataforma(
+        {sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba, SueltaTrasVueltas});
+    // Velocidad is its own stepper: the repeat gets faster as it goes.
+    f->Pic_Velocidad_MouseDown(1, 0, SUBE_X, SUBE_Y);
+    EXPECT_EQ(vueltas, 15);
+    EXPECT_EQ(Velocidad, 100);
+    EXPECT_EQ(f->PasoVelocidad.Subiendo, FALSO);
+    EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 2), 4);
+    // Leaving the arrow ends the repeat after one step.
+    PonServiciosPlataforma(
+        {sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba, SaleDeLaFlecha});
+    f->Pic_Velocidad_MouseDown(1, 0, BAJA_X, BAJA_Y);
+    EXPECT_EQ(Velocidad, 95);
+    EXPECT_EQ(f->PasoVelocidad.Bajando, FALSO);
+}
+
+TEST_F(Dialogo, UnaPulsacionJuntoALaFlechaNoEsPaso) {
+    Abre();
+    const int16_t antes = FactorPegado;
+    for (auto [x, y] : {std::pair{113.f, 30.f}, {139.f, 30.f}, {120.f, 24.f}, {60.f, 30.f}}) {
+        f->Pic_FactorPegado_MouseDown(1, 0, x, y);
+    }
+    // A corner of the arrow's image in the panel's grey is no hit either.
+    f->Pic_FactorPegado.PSet(SUBE_X, SUBE_Y, 0xC0C0C0);
+    f->Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y);
+    EXPECT_EQ(FactorPegado, antes);
+}
+
+TEST_F(Dialogo, ElZoomQueSaleDeLosLimitesVuelveAtrasConMensaje) {
+    EscribeBmp("g.bmp", 1000, 700);
+    Abre();
+    Elige("g.bmp");
+    std::vector<int16_t> vistos;
+    f->AlRefrescar = [&vistos] { vistos.push_back(Zoom); };
+    mensajes.clear();
+    f->Pic_Zoom_MouseDown(1, 0, SUBE_X, SUBE_Y);
+    EXPECT_NE(std::find(vistos.begin(), vistos.end(), 105), vistos.end());
+    EXPECT_EQ(Zoom, 100);
+    EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcZoom), "100%");
+    ASSERT_EQ(mensajes.size(), 1u);
+    EXPECT_EQ(mensajes[0].titulo, "Imagen fuera de límites");
+    EXPECT_EQ(mensajes[0].lineas, 6);
+    EXPECT_NE(mensajes[0].texto.find("pixels de altura" + NuevaLinea), std::string::npos);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 1000);
+}
+
+struct CasoZoomLista {
+    int32_t w, h;
+    int16_t lado; // the grid before the step down to 95
+    int16_t primera, ultima, ladoDespues;
+};
+
+class ZoomYLista : public Dialogo, public ::testing::WithParamInterface<CasoZoomLista> {};
+
+TEST_P(ZoomYLista, AlSoltarSeReconstruyenImagenYLista) {
+    const CasoZoomLista &c = GetParam();
+    EscribeBmp("z.bmp", c.w, c.h);
+    PiezasPorLado = c.lado;
+    Abre();
+    Elige("z.bmp");
+    sonidos.clear();
+    f->Pic_Zoom_MouseDown(1, 0, BAJA_X, BAJA_Y);
+    EXPECT_EQ(Zoom, 95);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.w * 95 / 100);
+    EXPECT_EQ(f->Lis_NroPiezas.List(0), CadenaFija(TextoNroPiezas[c.primera], 14));
+    EXPECT_EQ(f->Lis_NroPiezas.ListCount(), c.ultima - c.primera + 1);
+    EXPECT_EQ(PiezasPorLado, c.ladoDespues);
+    // The row is clicked again, and heard: the zoom is not a file click.
+    EXPECT_EQ(sonidos.back(), 12);
+}
+
+INSTANTIATE_TEST_SUITE_P(Pasos, ZoomYLista,
+                         ::testing::Values(CasoZoomLista{640, 480, 20, 5, 19, 19},
+                                           CasoZoomLista{1024, 768, 8, 7, 20, 8}));
+
+TEST_F(Dialogo, ElZoomSinFicheroEvaluadoNoHaceNada) {
+    const std::string vacia = raiz + "/vacia";
+    std::filesystem::create_directories(vacia);
+    CarpetaImagen = vacia;
+    const uint64_t origen = Huella(teselari.Pic_Origin);
+    Abre();
+    f->Pic_Zoom_MouseDown(1, 0, SUBE_X, SUBE_Y);
+    f->Pic_Zoom_MouseDown(1, 0, 60, 30);
+    EXPECT_EQ(Zoom, 100);
+    EXPECT_EQ(Huella(teselari.Pic_Origin), origen);
+    EXPECT_EQ(PiezasPorLado, 8);
+}
+
+// K = Int((100 - FactorPegado) x 26 / 100): the piece walks K + 15 steps,
+// blinks there six times, and jumps home.
+class PruebaAtraccion : public Dialogo,
+                        public ::testing::WithParamInterface<std::pair<int16_t, int32_t>> {};
+
+TEST_P(PruebaAtraccion, ParpadeaDondeAtraeriaElFactor) {
+    const auto [factor, k] = GetParam();
+    FactorPegado = factor;
+    Abre();
+    std::vector<std::pair<int32_t, int32_t>> ocultas;
+    f->AlRefrescar = [this, &ocultas] {
+        if (!f->Pic_PruebaPeq.Visible) {
+            ocultas.emplace_back(f->Pic_PruebaPeq.Left, f->Pic_PruebaPeq.Top);
+        }
+    };
+    f->Bot_Prueba_Click();
+    ASSERT_EQ(ocultas.size(), 6u);
+    EXPECT_EQ(ocultas.front(), std::make_pair(56 + k + 15, 45 - k - 15));
+    EXPECT_EQ(ocultas.back(), ocultas.front());
+    EXPECT_EQ(f->Pic_PruebaPeq.Left, 97);
+    EXPECT_EQ(f->Pic_PruebaPeq.Top, 4);
+    EXPECT_TRUE(f->Pic_PruebaPeq.Visible);
+    EXPECT_EQ(FactorPegado, factor);
+}
+
+INSTANTIATE_TEST_SUITE_P(Factores, PruebaAtraccion,
+                         ::testing::Values(std::pair<int16_t, int32_t>{0, 26}, std::pair{50, 13},
+                                           std::pair{55, 11}, std::pair{100, 0}));
+
+// The key of each selector turns its value 1, 2, 1; a press beside it does
+// nothing. Sonido's own key is never heard.
+TEST_F(Dialogo, LosSelectoresDeDosEstadosVanYVuelven) {
+    Abre();
+    struct Selector {
+        int16_t &valor;
+        void (FormAbrirFic::*pulsa)(int16_t, int16_t, float, float);
+        SuperficieDialogo &pic;
+        const char *uno, *dos;
+    };
+    Selector sel[] = {
+        {Cronometro, &FormAbrirFic::Pic_Cronometro_MouseDown, f->Pic_Cronometro, "Visible",
+         "Oculto"},
+        {Sonido, &FormAbrirFic::Pic_Sonido_MouseDown, f->Pic_Sonido, "Activado", "Desactivado"},
+        {Pistas, &FormAbrirFic::Pic_Pistas_MouseDown, f->Pic_Pistas, "Activada", "Desactivada"},
+    };
+    for (Selector &s : sel) {
+        s.valor = 1;
+        sonidos.clear();
+        (f.get()->*s.pulsa)(1, 0, 50, 20);
+        EXPECT_EQ(s.valor, 1);
+        for (auto [esperado, texto] : {std::pair{2, s.dos}, {1, s.uno}}) {
+            (f.get()->*s.pulsa)(1, 0, 10, 25);
+            EXPECT_EQ(s.valor, esperado);
+            EXPECT_EQ(rotulador.Ultimo(s.pic), CadenaFija(texto, 12));
+        }
+        const bool esSonido = &s.valor == &Sonido;
+        EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 3), esSonido ? 0 : 2);
+    }
+    // The tooltips of the dialog follow Pistas at once.
+    Pistas = 1;
+    f->Pic_Pistas_MouseDown(1, 0, 10, 25);
+    EXPECT_EQ(f->Pic_Si.ToolTipText, "");
+    f->Pic_Pistas_MouseDown(1, 0, 10, 25);
+    EXPECT_EQ(f->Pic_Si.ToolTipText, "Aceptar los cambios y salir de Personalizar");
+}
