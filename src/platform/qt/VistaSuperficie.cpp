@@ -29,13 +29,27 @@ void VistaSuperficie::Vigila() {
         }
         SincronizaLugar();
         if (isVisible() && !r.Vacio()) {
-            repaint(QRect(r.Izquierda, r.Arriba, r.Ancho(), r.Alto()));
+            repaint(QRect(r.Izquierda + borde_, r.Arriba + borde_, r.Ancho(), r.Alto()));
         }
     };
 }
 
+void VistaSuperficie::PonBorde(int ancho) {
+    borde_ = ancho;
+    SincronizaLugar();
+    update();
+}
+
+int BordeDe(const QWidget *w) {
+    const auto *vista = qobject_cast<const VistaSuperficie *>(w);
+    return vista != nullptr ? vista->Borde() : 0;
+}
+
 void VistaSuperficie::SincronizaLugar() {
-    const QRect lugar(superficie_.Left, superficie_.Top, superficie_.Ancho(), superficie_.Alto());
+    // Inside a framed parent the place counts from the frame's inner edge.
+    const int dentro = BordeDe(parentWidget());
+    const QRect lugar(superficie_.Left + dentro, superficie_.Top + dentro,
+                      superficie_.Ancho() + 2 * borde_, superficie_.Alto() + 2 * borde_);
     if (geometry() != lugar) {
         setGeometry(lugar);
     }
@@ -62,24 +76,55 @@ void VistaSuperficie::Sincroniza() {
 
 void VistaSuperficie::paintEvent(QPaintEvent *evento) {
     QPainter p(this);
+    if (borde_ > 0) {
+        DibujaBorde(p);
+        p.translate(borde_, borde_);
+    }
     const int ancho = superficie_.Ancho();
     const int alto = superficie_.Alto();
+    const QRect pedido = evento->rect().translated(-borde_, -borde_);
     if (ancho <= 0 || alto <= 0) {
-        p.fillRect(evento->rect(), Qt::white);
+        p.fillRect(pedido, Qt::white);
         return;
     }
     // The rows of the surface are 0xFFRRGGBB words: an RGB32 image over them
     // without a copy.
     const QImage imagen(reinterpret_cast<const uchar *>(superficie_.Fila(0)), ancho, alto,
                         static_cast<qsizetype>(ancho) * 4, QImage::Format_RGB32);
-    const QRect zona = evento->rect() & QRect(0, 0, ancho, alto);
+    const QRect zona = pedido & QRect(0, 0, ancho, alto);
     p.drawImage(zona.topLeft(), imagen, zona);
     // A widget larger than its surface (for a moment, before Sincroniza)
     // shows white beyond it.
-    const QRegion resto = QRegion(evento->rect()) - QRegion(0, 0, ancho, alto);
+    const QRegion resto =
+        (QRegion(pedido) & QRegion(0, 0, width() - 2 * borde_, height() - 2 * borde_)) -
+        QRegion(0, 0, ancho, alto);
     for (const QRect &r : resto) {
         p.fillRect(r, Qt::white);
     }
+}
+
+// The sunken frame: dark grey and black above and left, white and light
+// grey below and right, each line one pixel.
+void VistaSuperficie::DibujaBorde(QPainter &p) {
+    const int w = width(), h = height();
+    p.setPen(QColor(0x80, 0x80, 0x80));
+    p.drawLine(0, 0, w - 2, 0);
+    p.drawLine(0, 0, 0, h - 2);
+    p.setPen(Qt::white);
+    p.drawLine(0, h - 1, w - 1, h - 1);
+    p.drawLine(w - 1, 0, w - 1, h - 1);
+    if (borde_ > 1) {
+        p.setPen(Qt::black);
+        p.drawLine(1, 1, w - 3, 1);
+        p.drawLine(1, 1, 1, h - 3);
+        p.setPen(QColor(0xC0, 0xC0, 0xC0));
+        p.drawLine(1, h - 2, w - 2, h - 2);
+        p.drawLine(w - 2, 1, w - 2, h - 2);
+    }
+}
+
+QPointF VistaSuperficie::Punto(const QMouseEvent *evento) const {
+    return evento->position() - QPointF(borde_, borde_);
 }
 
 int16_t BotonDeRaton(Qt::MouseButton boton) {
@@ -126,7 +171,7 @@ int16_t TeclasDeRaton(Qt::KeyboardModifiers teclas) {
 void VistaSuperficie::mousePressEvent(QMouseEvent *evento) {
     const int16_t boton = BotonDeRaton(evento->button());
     if (AlPulsar && boton != 0) {
-        const QPointF p = evento->position();
+        const QPointF p = Punto(evento);
         AlPulsar(boton, TeclasDeRaton(evento->modifiers()), static_cast<float>(p.x()),
                  static_cast<float>(p.y()));
     }
@@ -134,7 +179,7 @@ void VistaSuperficie::mousePressEvent(QMouseEvent *evento) {
 
 void VistaSuperficie::mouseMoveEvent(QMouseEvent *evento) {
     if (AlMover) {
-        const QPointF p = evento->position();
+        const QPointF p = Punto(evento);
         AlMover(BotonesDeRaton(evento->buttons()), TeclasDeRaton(evento->modifiers()),
                 static_cast<float>(p.x()), static_cast<float>(p.y()));
     }
@@ -143,7 +188,7 @@ void VistaSuperficie::mouseMoveEvent(QMouseEvent *evento) {
 void VistaSuperficie::mouseReleaseEvent(QMouseEvent *evento) {
     const int16_t boton = BotonDeRaton(evento->button());
     if (AlSoltar && boton != 0) {
-        const QPointF p = evento->position();
+        const QPointF p = Punto(evento);
         AlSoltar(boton, TeclasDeRaton(evento->modifiers()), static_cast<float>(p.x()),
                  static_cast<float>(p.y()));
     }

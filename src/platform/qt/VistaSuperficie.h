@@ -6,6 +6,11 @@
 // event loop, so a deal or an automatic move is seen while it runs. Mouse
 // events go to the handlers in the game's terms: button 1 left, 2 right,
 // 4 middle, Shift 1 / Ctrl 2 / Alt 4, and surface pixel coordinates.
+//
+// A surface may carry the platform's sunken frame, two pixels wide, around
+// its pixels: the widget is then four pixels wider and higher than the
+// surface, Left and Top place the frame's corner, and the surface's pixels,
+// its mouse coordinates and its child controls start inside the frame.
 #pragma once
 
 #include <QWidget>
@@ -24,6 +29,10 @@ class VistaSuperficie : public QWidget {
     ~VistaSuperficie() override;
 
     Superficie &Control() { return superficie_; }
+
+    // The width of the sunken frame: 0 (flat, the default) or 2.
+    void PonBorde(int ancho);
+    int Borde() const { return borde_; }
 
     // Mirrors place, size, visibility, pointer and tooltip of the surface
     // onto the widget, and watches the surface again if it was replaced.
@@ -46,15 +55,21 @@ class VistaSuperficie : public QWidget {
 
   private:
     void Vigila();
+    void DibujaBorde(QPainter &p);
+    QPointF Punto(const QMouseEvent *evento) const;
     void SincronizaLugar();
 
     Superficie &superficie_;
+    int borde_ = 0;
     int16_t puntero_ = -1;
     std::string icono_;
 };
 
 // The game's number of one mouse button, and of the buttons held.
 int16_t BotonDeRaton(Qt::MouseButton boton);
+// The width of the frame of a widget's client area when it is a framed
+// surface, else 0: where the children of that widget start.
+int BordeDe(const QWidget *w);
 int16_t BotonesDeRaton(Qt::MouseButtons botones);
 // The game's Shift argument: Shift 1, Ctrl 2, Alt 4.
 int16_t TeclasDeRaton(Qt::KeyboardModifiers teclas);
