@@ -48,8 +48,8 @@ int BordeDe(const QWidget *w) {
 void VistaSuperficie::SincronizaLugar() {
     // Inside a framed parent the place counts from the frame's inner edge.
     const int dentro = BordeDe(parentWidget());
-    const QRect lugar(superficie_.Left + dentro, superficie_.Top + dentro,
-                      superficie_.Ancho() + 2 * borde_, superficie_.Alto() + 2 * borde_);
+    const QRect lugar(superficie_.Left + dentro, superficie_.Top + dentro, superficie_.Ancho(),
+                      superficie_.Alto());
     if (geometry() != lugar) {
         setGeometry(lugar);
     }
@@ -79,6 +79,7 @@ void VistaSuperficie::paintEvent(QPaintEvent *evento) {
     if (borde_ > 0) {
         DibujaBorde(p);
         p.translate(borde_, borde_);
+        p.setClipRect(0, 0, width() - 2 * borde_, height() - 2 * borde_);
     }
     const int ancho = superficie_.Ancho();
     const int alto = superficie_.Alto();

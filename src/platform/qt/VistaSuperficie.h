@@ -7,10 +7,11 @@
 // events go to the handlers in the game's terms: button 1 left, 2 right,
 // 4 middle, Shift 1 / Ctrl 2 / Alt 4, and surface pixel coordinates.
 //
-// A surface may carry the platform's sunken frame, two pixels wide, around
-// its pixels: the widget is then four pixels wider and higher than the
-// surface, Left and Top place the frame's corner, and the surface's pixels,
-// its mouse coordinates and its child controls start inside the frame.
+// A surface may carry the platform's sunken frame, two pixels wide: the
+// widget keeps the surface's size, which is then the outer size, the frame
+// takes its outer two rows and columns, and the surface's pixels, its mouse
+// coordinates and its child controls start inside the frame (the last four
+// columns and rows of the surface are not seen).
 #pragma once
 
 #include <QWidget>
