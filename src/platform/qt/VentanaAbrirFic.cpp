@@ -9,11 +9,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "dialog/AyudaDialogo.h"
 #include "dialog/FormAbrirFic.h"
 #include "platform/qt/Cursores.h"
 #include "platform/qt/RotuladorQt.h"
 #include "platform/qt/VistaSuperficie.h"
+#include "services/Ayuda.h"
 
 namespace {
 
