@@ -16,6 +16,7 @@
 #include "platform/qt/Manejadores.h"
 #include "platform/qt/ReproductorSonidos.h"
 #include "platform/qt/RotuladorQt.h"
+#include "platform/qt/VentanaAbrirFic.h"
 #include "platform/qt/VentanaAyuda.h"
 #include "platform/qt/VentanaTeselari.h"
 #include "platform/raster/Region.h"
@@ -96,6 +97,7 @@ void InstalaServicios() {
     PonServiciosPlataforma(s);
     PonCargadorImagen(CargaImagenQt);
     PonMostradorAyuda(MuestraVentanaAyuda);
+    InstalaServiciosDialogo();
 }
 
 VentanaTeselari &Form_Load() {

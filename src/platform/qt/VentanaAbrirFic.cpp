@@ -341,6 +341,11 @@ void VentanaAbrirFic::ConectaBotones() {
 // the player; the controls that only want the pointing hand get it here.
 bool VentanaAbrirFic::eventFilter(QObject *objeto, QEvent *evento) {
     const QEvent::Type tipo = evento->type();
+    if ((tipo != QEvent::MouseButtonPress && tipo != QEvent::MouseButtonDblClick &&
+         tipo != QEvent::MouseMove && tipo != QEvent::Enter) ||
+        lisNroPiezas_ == nullptr) {
+        return QDialog::eventFilter(objeto, evento);
+    }
     auto *w = qobject_cast<QWidget *>(objeto);
     QWidget *control = w;
     if (w != nullptr &&

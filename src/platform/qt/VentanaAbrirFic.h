@@ -49,9 +49,11 @@ class VentanaAbrirFic : public QDialog {
     FormAbrirFic &Form() { return form_; }
     VistaSuperficie *VistaDe(const SuperficieDialogo &s) const;
 
+    // Escape and the window's close come here: only an unloaded form closes.
+    void reject() override;
+
   protected:
     void keyPressEvent(QKeyEvent *evento) override;
-    void reject() override;
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 
   private:
