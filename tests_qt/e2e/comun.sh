@@ -72,22 +72,23 @@ arranca_juego() {
     pid_juego=$!
 }
 
-# Waits for the main window; messages that come before it (a first start)
-# are closed by a key every two seconds. Leaves its id in `ventana`.
-espera_ventana() {
+# Waits up to 20 seconds for a visible window whose name matches; leaves its
+# id in `ventana`.
+espera_nombre() {
     ventana=""
     local paso
     for paso in $(seq 200); do
-        ventana=$(xdotool search --onlyvisible --name '^Teselari$' 2>/dev/null | head -1)
-        [[ -n "$ventana" ]] && break
+        ventana=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -1)
+        [[ -n "$ventana" ]] && return 0
         kill -0 "$pid_juego" 2>/dev/null || falla "the game ended on its own: $(cat "$salida/teselari.log")"
-        if ((paso % 20 == 0)); then
-            import -window root "$salida/mensaje.png" 2>/dev/null
-            xdotool key space
-        fi
         sleep 0.1
     done
-    [[ -n "$ventana" ]] || falla "no window appeared"
+    falla "no window named $1 appeared"
+}
+
+# Waits for the main window. Leaves its id in `ventana`.
+espera_ventana() {
+    espera_nombre '^Teselari$'
 }
 
 # Presses command 11, "Salir de la aplicación", the last button of the

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # The game in a real window under Xvfb, started for the first time: it
 # starts in a folder of its own with the sample pictures, says that it found
-# no saved game, covers the whole screen with its board and panels, and ends
-# by its exit command, leaving the saved game behind.
+# no saved game, leads into the customisation dialog where a sample is
+# chosen and accepted, covers the whole screen with the dealt board and its
+# panels, and ends by its exit command, leaving the saved game behind.
 #
 #   primer_arranque.sh TESELARI SALIDA
 #
@@ -16,6 +17,24 @@ source "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 arranca_pantalla
 copia_programa
 arranca_juego
+
+# No saved game: the message says so, a key closes it, and the
+# customisation dialog leads to a picture.
+espera_nombre '^Error leyendo fichero de datos iniciales$'
+sleep 0.5
+import -window root "$salida/mensaje.png"
+xdotool key space
+espera_nombre '^Personalizar la aplicación$'
+sleep 1
+import -window root "$salida/dialogo.png"
+# The dialog stands in the middle of the screen; its third file is chosen
+# and accepted with the tick.
+izquierda=$(((ANCHO - 640) / 2))
+arriba=$(((ALTO - 480) / 2))
+xdotool mousemove $((izquierda + 183)) $((arriba + 95)) click 1
+sleep 1
+import -window root "$salida/elegida.png"
+xdotool mousemove $((izquierda + 586)) $((arriba + 442)) click 1
 espera_ventana
 sleep 1
 
@@ -36,4 +55,6 @@ echo "colours on the board: $tablero"
 [[ "$tablero" -ge 256 ]] || falla "only $tablero colours left of the panel: no board was dealt"
 
 sale_con_boton_11
+grep -q '^"CASA.JPG"' <(sed -n 13p "$carpeta/TESEL32.INI") ||
+    falla "the saved game is not of the chosen picture: $(sed -n 13p "$carpeta/TESEL32.INI")"
 echo "passed"

@@ -75,6 +75,8 @@ FormMensajes::FormMensajes(const std::string &titulo, const std::string &texto, 
     : QDialog(padre, Qt::Dialog | Qt::FramelessWindowHint), lineas_(MensajeLineas),
       botones_(MensajeBotones) {
     setObjectName(QStringLiteral("mensajes"));
+    // The title names the window for the desktop as well.
+    setWindowTitle(QString::fromStdString(titulo));
     setModal(true);
     setFocusPolicy(Qt::StrongFocus);
     PonPunteroPantalla(PUNTERO_NORMAL);

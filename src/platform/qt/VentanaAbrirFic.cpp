@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
 
 #include "dialog/FormAbrirFic.h"
 #include "platform/qt/Cursores.h"
@@ -490,6 +491,21 @@ void VentanaAbrirFic::SincronizaControl(QWidget *w, const ControlDialogo &c) {
     }
 }
 
+// The folder list shows a tree as the platform's does: the folders from the
+// root down to the current one, each a step further in, with an open
+// folder; below them the sub-folders, closed, one step further still.
+void VentanaAbrirFic::PonIconosCarpetas() {
+    const int actual = form_.Dir1.IndiceActual();
+    for (int i = 0; i < dir1_->count(); ++i) {
+        QListWidgetItem *item = dir1_->item(i);
+        const int nivel = i <= actual ? i : actual + 1;
+        item->setIcon(
+            style()->standardIcon(i <= actual ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon));
+        item->setData(Qt::UserRole, nivel);
+        item->setText(QString(nivel * 2, ' ') + QString::fromStdString(form_.Dir1.List(i)));
+    }
+}
+
 void VentanaAbrirFic::SincronizaLista(QListWidget *w, const ListaDialogo &l) {
     QStringList elementos;
     for (const std::string &e : l.Elementos()) {
@@ -497,11 +513,14 @@ void VentanaAbrirFic::SincronizaLista(QListWidget *w, const ListaDialogo &l) {
     }
     bool iguales = w->count() == elementos.size();
     for (int i = 0; iguales && i < w->count(); ++i) {
-        iguales = w->item(i)->text() == elementos[i];
+        iguales = w->item(i)->text().trimmed() == elementos[i].trimmed();
     }
     if (!iguales) {
         w->clear();
         w->addItems(elementos);
+    }
+    if (w == dir1_) {
+        PonIconosCarpetas();
     }
     const int fila = &l == &form_.Dir1 ? form_.Dir1.IndiceActual() : l.ListIndex();
     if (w->currentRow() != fila) {

@@ -68,6 +68,7 @@ class VentanaAbrirFic : public QDialog {
     void SincronizaControl(QWidget *w, const ControlDialogo &c);
     void SincronizaListas();
     void SincronizaLista(QListWidget *w, const ListaDialogo &l);
+    void PonIconosCarpetas();
     void SincronizaCursorQueEs();
     int16_t TemaBajoRaton(bool queEs) const;
 
