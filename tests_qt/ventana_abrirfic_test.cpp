@@ -83,7 +83,7 @@ class VentanaAbrirFicTest : public testing::Test {
         Zoom = 100;
         Sonido = 2;
         ImagenValida = VERDADERO;
-        ASSERT_TRUE(CargaImagen(FicheroImagen, teselari.Pic_Origin));
+        ASSERT_TRUE(CargaImagen(FicheroImagen, teselari.Pic_Origin).Leida());
 
         form = std::make_unique<FormAbrirFic>();
         form->Form_Load();

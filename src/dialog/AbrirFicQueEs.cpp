@@ -3,11 +3,6 @@
 #include "services/Ayuda.h"
 #include "services/Sonidos.h"
 
-namespace {
-// The arrow with a question mark.
-constexpr int16_t PUNTERO_PREGUNTA = 14;
-} // namespace
-
 void FormAbrirFic::Bot_QueEs_Click() {
     ModoQueEs = -1;
     MousePointer = PUNTERO_PREGUNTA;

@@ -18,5 +18,6 @@ void PonCursor(Superficie &control, const std::string &nombre);
 constexpr int16_t PUNTERO_NORMAL = 0;
 constexpr int16_t PUNTERO_ESPERA = 11;
 constexpr int16_t PUNTERO_PROHIBIDO = 12;
+constexpr int16_t PUNTERO_PREGUNTA = 14; // arrow with a question mark: what's this
 constexpr int16_t PUNTERO_CUATRO_FLECHAS = 15;
 constexpr int16_t PUNTERO_PROPIO = 99;

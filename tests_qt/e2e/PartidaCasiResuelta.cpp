@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 
 #include "core/PuzzGbl.h"
@@ -28,9 +29,9 @@ constexpr int16_t ZOOM = 60;
 // The settings of the game, as a player would have chosen them; the clock
 // hidden so that nothing on the board changes by itself.
 void PonAjustes(const std::string &carpeta, const std::string &imagen) {
-    FicheroImagen = carpeta + "/" + imagen;
+    FicheroImagen = std::filesystem::path(carpeta) / imagen;
     NombreImagen = imagen;
-    UnidadImagen = "/";
+    UnidadImagen = UnidadDeCarpeta(carpeta);
     CarpetaImagen = carpeta;
     PiezasPorLado = LADO;
     TipoPieza = 0;
@@ -64,7 +65,7 @@ int main(int argc, char **argv) {
     LlenaTablas();
     PonCargadorImagen(CargaImagenQt);
     PonAjustes(carpeta, argv[2]);
-    if (!CargaImagen(FicheroImagen, teselari.Pic_W)) {
+    if (!CargaImagen(FicheroImagen, teselari.Pic_W).Leida()) {
         std::fprintf(stderr, "no se puede leer %s\n", FicheroImagen.c_str());
         return 1;
     }

@@ -16,6 +16,8 @@ QCursor CursorDePuntero(int16_t puntero, const std::string &icono) {
         return QCursor(Qt::WaitCursor);
     case PUNTERO_PROHIBIDO:
         return QCursor(Qt::ForbiddenCursor);
+    case PUNTERO_PREGUNTA:
+        return QCursor(Qt::WhatsThisCursor);
     case PUNTERO_CUATRO_FLECHAS:
         return QCursor(Qt::SizeAllCursor);
     case PUNTERO_PROPIO: {
