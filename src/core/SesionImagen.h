@@ -22,9 +22,9 @@ void PasaImagenAOrigen(int32_t ancho, int32_t alto);
 // Pic_Origin as a blank 320 x 240 surface, its empty image as its picture.
 void DejaOrigenEnBlanco();
 
-// Until the customisation dialog exists, a start without a usable picture
-// still gives the player a game: the first sample picture of the program's
-// folder that loads and fits is taken, at zoom 100, with the settings in
-// force. Does nothing when a usable picture already stands in Pic_Origin;
+// When no customisation dialog can be shown (a platform without one), a
+// start without a usable picture still gives a game: the first sample
+// picture of the program's folder that loads and fits is taken, at zoom 100,
+// with the settings in force. Does nothing when a usable picture already stands in Pic_Origin;
 // leaves ImagenValida false when no sample loads.
 void CargaImagenDeMuestra();
