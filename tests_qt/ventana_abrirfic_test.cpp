@@ -2,6 +2,8 @@
 // that follow the form and feed their clicks back, the two ways out and the
 // ones that are not, what's-this, the button page, and the framed surfaces.
 #include <QApplication>
+#include <QClipboard>
+#include <QImage>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -85,6 +87,12 @@ class VentanaAbrirFicTest : public testing::Test {
         ImagenValida = VERDADERO;
         ASSERT_TRUE(CargaImagen(FicheroImagen, teselari.Pic_Origin).Leida());
 
+        QGuiApplication::clipboard()->clear();
+        Abre();
+    }
+    // The dialog opened on the state set up, as command 2 opens it.
+    void Abre() {
+        ventana.reset();
         form = std::make_unique<FormAbrirFic>();
         form->Form_Load();
         ventana = std::make_unique<VentanaAbrirFic>(*form);
@@ -259,4 +267,29 @@ TEST_F(VentanaAbrirFicTest, UnaSuperficieConMarcoLoDibujaHundidoYSusPixelesDentr
         const QRgb esperado = qRgb(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF);
         EXPECT_EQ(imagen.pixel(p + QPoint(2, 2)), esperado) << p.x() << "," << p.y();
     }
+}
+
+TEST_F(VentanaAbrirFicTest, LaImagenDelPortapapelesSeGuardaEnLaCarpetaYQuedaElegida) {
+    auto *boton = qobject_cast<QPushButton *>(ventana->Control("Bot_Portapapeles"));
+    ASSERT_NE(boton, nullptr);
+    EXPECT_FALSE(boton->isEnabled()); // nothing on the clipboard at the opening
+    QImage copiada(400, 300, QImage::Format_RGB32);
+    copiada.fill(QColor(10, 200, 30));
+    copiada.setPixelColor(0, 0, QColor(250, 0, 0));
+    QGuiApplication::clipboard()->setImage(copiada);
+    Abre();
+    boton = qobject_cast<QPushButton *>(ventana->Control("Bot_Portapapeles"));
+    ASSERT_TRUE(boton->isEnabled());
+    QTest::mouseClick(boton, Qt::LeftButton);
+
+    // Written into the folder shown, listed and chosen, and read back as
+    // the very picture that was copied.
+    EXPECT_EQ(NombreImagen, "teseport.bmp");
+    EXPECT_EQ(Lista("File1")->currentItem()->text(), QString("teseport.bmp"));
+    Superficie leida;
+    ASSERT_TRUE(CargaImagen((carpeta / "teseport.bmp").string(), leida).Leida());
+    EXPECT_EQ(leida.Ancho(), 400);
+    EXPECT_EQ(leida.Alto(), 300);
+    EXPECT_EQ(leida.Point(0, 0), static_cast<Color>(0x0000FA));
+    EXPECT_EQ(leida.Point(399, 299), static_cast<Color>(0x1EC80A));
 }
