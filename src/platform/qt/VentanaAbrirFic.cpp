@@ -72,7 +72,14 @@ VentanaAbrirFic::VentanaAbrirFic(FormAbrirFic &form, QWidget *padre)
     ConectaSuperficies();
     ConectaListas();
     ConectaBotones();
-    form_.AlRefrescar = [this] { Sincroniza(); };
+    // A refresh of the form reaches the screen at once, also in the middle
+    // of a handler whose pauses let no event through (the attraction test).
+    form_.AlRefrescar = [this] {
+        Sincroniza();
+        if (isVisible()) {
+            repaint();
+        }
+    };
     Sincroniza();
 }
 

@@ -55,6 +55,11 @@ void VistaSuperficie::SincronizaLugar() {
     }
     if (isHidden() == superficie_.Visible) {
         setVisible(superficie_.Visible);
+        // A surface shown again is seen at once, even when no event runs
+        // before the next pause (the blink of the attraction test).
+        if (superficie_.Visible && isVisible()) {
+            repaint();
+        }
     }
 }
 
