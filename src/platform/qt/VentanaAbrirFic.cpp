@@ -47,6 +47,22 @@ QColor ColorQt(Color c) {
     return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF);
 }
 
+// The face stands in for one narrower than itself: a caption that would not
+// fit its control at the form's size is set a pixel smaller at a time, down
+// to 8 pixels, rather than cut off.
+void AjustaLetra(QWidget *w, const Fuente &letra, const QString &texto, int margen) {
+    QFont fuente = FuenteQt(letra);
+    // Widgets' text is never read back: smoothing keeps small sizes legible.
+    fuente.setStyleStrategy(QFont::PreferDefault);
+    const int disponible = w->width() - margen;
+    while (fuente.pixelSize() > 8 && QFontMetrics(fuente).horizontalAdvance(texto) > disponible) {
+        fuente.setPixelSize(fuente.pixelSize() - 1);
+    }
+    if (w->font() != fuente) {
+        w->setFont(fuente);
+    }
+}
+
 std::string ConIndice(const char *nombre, size_t i) {
     return std::string(nombre) + "(" + std::to_string(i) + ")";
 }
@@ -481,14 +497,20 @@ void VentanaAbrirFic::SincronizaControl(QWidget *w, const ControlDialogo &c) {
     }
     w->setCursor(CursorDePuntero(c.MousePointer, c.MouseIcon));
     if (auto *b = qobject_cast<QPushButton *>(w)) {
-        b->setText(QString::fromStdString(static_cast<const BotonDialogo &>(c).Caption));
+        const auto &boton = static_cast<const BotonDialogo &>(c);
+        b->setText(QString::fromStdString(boton.Caption));
+        AjustaLetra(b, boton.Letra, b->text(), 6);
     } else if (auto *o = qobject_cast<QRadioButton *>(w)) {
         const auto &opcion = static_cast<const OpcionDialogo &>(c);
         o->setText(QString::fromStdString(opcion.Caption));
         o->setChecked(opcion.Value);
+        const int marca = o->style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth) +
+                          o->style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing);
+        AjustaLetra(o, Fuente{}, o->text(), marca + 1);
     } else if (auto *l = qobject_cast<QLabel *>(w)) {
         const auto &etiqueta = static_cast<const EtiquetaDialogo &>(c);
         l->setText(QString::fromStdString(etiqueta.Caption));
+        AjustaLetra(l, etiqueta.Letra, l->text(), 2);
         QPalette paleta = l->palette();
         paleta.setColor(QPalette::WindowText, ColorQt(etiqueta.ForeColor));
         paleta.setColor(QPalette::Window, ColorQt(etiqueta.BackColor));
