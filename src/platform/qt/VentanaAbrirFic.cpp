@@ -245,7 +245,8 @@ void VentanaAbrirFic::ConectaSuperficies() {
                 return nullptr;
             }
             return [this, m](int16_t b, int16_t sh, float x, float y) {
-                Atiende([&] { (form_.*m)(b, sh, x, y); });
+                FormAbrirFic &f = form_;
+                Atiende([&f, m, b, sh, x, y] { (f.*m)(b, sh, x, y); });
             };
         };
         v->AlPulsar = llama(pulsar);
@@ -280,7 +281,7 @@ void VentanaAbrirFic::ConectaSuperficies() {
         };
         if (mover) {
             v->AlMover = [this, mover](int16_t b, int16_t sh, float x, float y) {
-                Atiende([&] { mover(b, sh, x, y); });
+                Atiende([&mover = mover, b, sh, x, y] { mover(b, sh, x, y); });
             };
         }
     };
@@ -303,7 +304,8 @@ void VentanaAbrirFic::ConectaSuperficies() {
         VistaSuperficie *v = VistaDe(*s);
         if (v != nullptr) {
             v->AlMover = [this, s](int16_t, int16_t, float, float) {
-                Atiende([&] { form_.PonManoSiNormal(*s); });
+                FormAbrirFic &form = form_;
+                Atiende([&form, s] { form.PonManoSiNormal(*s); });
             };
         }
     }
@@ -329,7 +331,7 @@ void VentanaAbrirFic::ConectaListas() {
     auto teclas = [this](QListWidget *w, ListaDialogo &l) {
         connect(w, &QListWidget::currentRowChanged, this, [this, &l](int fila) {
             if (!sincronizando_ && fila != l.ListIndex() && &l != &form_.Dir1) {
-                Atiende([&] { l.PonListIndex(fila); });
+                Atiende([&l, fila] { l.PonListIndex(fila); });
             }
         });
     };
@@ -337,7 +339,8 @@ void VentanaAbrirFic::ConectaListas() {
     teclas(lisNroPiezas_, f.Lis_NroPiezas);
     connect(drive1_, &QComboBox::activated, this, [this](int i) {
         if (!sincronizando_ && i >= 0 && i < form_.Drive1.ListCount()) {
-            Atiende([&] { form_.Drive1.PonDrive(form_.Drive1.List(i)); });
+            ListaUnidades &unidades = form_.Drive1;
+            Atiende([&unidades, i] { unidades.PonDrive(unidades.List(i)); });
         }
     });
 }
@@ -393,6 +396,9 @@ bool VentanaAbrirFic::eventFilter(QObject *objeto, QEvent *evento) {
         ListaDialogo &l = lista == dir1_    ? static_cast<ListaDialogo &>(form_.Dir1)
                           : lista == file1_ ? static_cast<ListaDialogo &>(form_.File1)
                                             : form_.Lis_NroPiezas;
+        if (tipo == QEvent::Enter) {
+            return false;
+        }
         auto *raton = static_cast<QMouseEvent *>(evento);
         if (tipo == QEvent::MouseButtonPress && raton->button() == Qt::LeftButton) {
             const int fila = lista->indexAt(raton->position().toPoint()).row();
