@@ -14,10 +14,11 @@ namespace {
 
 // The loader reads any file that exists as the same 400 x 300 picture, so
 // both a found and a lost picture can be reached from the file's text.
-bool CargadorFijo(const std::string &fichero, Superficie &destino) {
+CargaDeImagen CargadorFijo(const std::string &fichero, Superficie &destino) {
     std::error_code ec;
     if (!std::filesystem::is_regular_file(fichero, ec)) {
-        return false;
+        DejaImagenEnBlanco(destino);
+        return {EstadoCarga::Inexistente, 320, 240};
     }
     constexpr int32_t ANCHO = 400, ALTO = 300;
     destino.CambiaTamano(ANCHO, ALTO);
@@ -28,7 +29,7 @@ bool CargadorFijo(const std::string &fichero, Superficie &destino) {
                       uint32_t((x ^ y) & 0xFF);
         }
     }
-    return true;
+    return {EstadoCarga::Leida, ANCHO, ALTO};
 }
 
 void Marca(const std::string &ruta) {

@@ -35,7 +35,7 @@ bool EscribeSemilla(const Semilla &s, const std::string &destino) {
     ImagenValida = VERDADERO;
     PartidaValida = VERDADERO;
     SegundosCronometro = 125;
-    if (!CargaImagen(FicheroImagen, teselari.Pic_W)) {
+    if (!CargaImagen(FicheroImagen, teselari.Pic_W).Leida()) {
         return false;
     }
     PasaImagenAOrigen(static_cast<int32_t>(AnchoConZoom(s.zoom)),
