@@ -35,7 +35,10 @@ Decodificacion Decodifica(QFile &f) {
     }
 }
 
+} // namespace
+
 void CopiaEnSuperficie(const QImage &imagen, Superficie &destino) {
+    // The rows of an RGB32 image are the surface's 0xFFRRGGBB words.
     destino.CambiaTamano(imagen.width(), imagen.height());
     for (int y = 0; y < imagen.height(); ++y) {
         std::memcpy(destino.Fila(y), imagen.constScanLine(y),
@@ -43,8 +46,6 @@ void CopiaEnSuperficie(const QImage &imagen, Superficie &destino) {
     }
     destino.Cambiado(destino.Limites());
 }
-
-} // namespace
 
 CargaDeImagen CargaImagenQt(const std::string &fichero, Superficie &destino) {
     const QString nombre = QString::fromStdString(fichero);

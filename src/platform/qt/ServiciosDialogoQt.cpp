@@ -5,11 +5,11 @@
 #include <QImage>
 #include <QStorageInfo>
 #include <algorithm>
-#include <cstring>
 
 #include "dialog/FormAbrirFic.h"
 #include "dialog/ServiciosDialogo.h"
 #include "platform/qt/Arranque.h"
+#include "platform/qt/CargaImagenQt.h"
 #include "platform/qt/VentanaAbrirFic.h"
 
 namespace {
@@ -41,13 +41,7 @@ bool TomaImagenPortapapeles(Superficie &destino) {
     if (imagen.isNull()) {
         return false;
     }
-    imagen = imagen.convertToFormat(QImage::Format_RGB32);
-    destino.CambiaTamano(imagen.width(), imagen.height());
-    for (int y = 0; y < imagen.height(); ++y) {
-        std::memcpy(destino.Fila(y), imagen.constScanLine(y),
-                    static_cast<size_t>(imagen.width()) * 4);
-    }
-    destino.Cambiado(destino.Limites());
+    CopiaEnSuperficie(imagen.convertToFormat(QImage::Format_RGB32), destino);
     return true;
 }
 
