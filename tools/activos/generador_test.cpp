@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "Azar.h"
+#include "ComparaImagenes.h"
 #include "Cronometro.h"
 #include "Cursores.h"
 #include "Escritura.h"
@@ -226,8 +227,7 @@ TEST(Escritura, UnaPasadaDevuelveLosActivosGuardados) {
         const QImage nueva(tmp.path() + "/" + png);
         const QImage guardada(Carpeta + "/" + png);
         ASSERT_FALSE(nueva.isNull());
-        EXPECT_EQ(nueva.convertToFormat(QImage::Format_ARGB32),
-                  guardada.convertToFormat(QImage::Format_ARGB32));
+        EXPECT_TRUE(CasiIguales(nueva, guardada));
     }
     for (int clip = 1; clip <= NumeroClips; ++clip) {
         const QString f = QString("/sonidos/%1.wav").arg(clip);
@@ -249,8 +249,8 @@ TEST(Escritura, CadaMuestraSaleIgualQueLaGuardada) {
         ASSERT_TRUE(b.open(QIODevice::WriteOnly));
         ASSERT_TRUE(img.save(&b, bmp ? "BMP" : "JPG", bmp ? -1 : 90));
         const QImage guardada(Carpeta + "/muestras/" + m.Nombre);
-        EXPECT_EQ(QImage::fromData(datos).convertToFormat(QImage::Format_RGB32),
-                  guardada.convertToFormat(QImage::Format_RGB32));
+        // A unit of difference before the encoder may move a few after it.
+        EXPECT_TRUE(CasiIguales(QImage::fromData(datos), guardada, 8));
     }
 }
 
