@@ -18,6 +18,7 @@
 #include "platform/qt/RotuladorQt.h"
 #include "platform/qt/VentanaAbrirFic.h"
 #include "platform/qt/VentanaAyuda.h"
+#include "platform/qt/VentanaHistoric.h"
 #include "platform/qt/VentanaTeselari.h"
 #include "platform/raster/Region.h"
 #include "services/Ayuda.h"
@@ -128,6 +129,7 @@ VentanaTeselari &Form_Load() {
     const QRect pantalla = QGuiApplication::primaryScreen()->geometry();
     AnchoPantalla = static_cast<int16_t>(pantalla.width());
     AltoPantalla = static_cast<int16_t>(pantalla.height());
+    PreparaHistorico();
     // The five regions exist for the whole run; they start empty.
     for (Region *r : {&RegionAnterior, &RegionNueva, &RegionRecorte, &RegionPieza, &RegionSuelta}) {
         SetRectRgn(*r, 0, 0, 0, 0);
