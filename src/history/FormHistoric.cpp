@@ -148,7 +148,7 @@ void FormHistoric::Escribe(int32_t x, int32_t y, const std::string &texto, int32
         while (!t.empty() && f.TextWidth(t + "…") > ancho) {
             QuitaUltimo(t);
         }
-        t += "…";
+        t = SinBlancosFinales(t) + "…";
     }
     f.CurrentX = x;
     f.CurrentY = y;
