@@ -164,6 +164,12 @@ TEST_F(Historia, SinFicheroLoDiceEnCadaArranque) {
         EXPECT_EQ(NroRegistrosHistorico, 0);
         EXPECT_EQ(Historico.size(), 21u);
     }
+    // A face too wide for two lines gets the message the lines it needs.
+    RotuladorPrueba ancho;
+    PonRotulador(&ancho);
+    LeeHistorico();
+    PonRotulador(nullptr);
+    EXPECT_EQ(escritorio.mensajes.back().lineas, 3);
     std::filesystem::create_directory(Ruta());
     LeeHistorico();
     EXPECT_EQ(escritorio.mensajes.back().texto, "HIS ERROR 75");

@@ -13,40 +13,6 @@ using namespace PuzzGbl;
 
 namespace {
 
-// Text as a fixed-pitch face would measure it, 0.8 of the size in points a
-// character; what is written is kept.
-class RotuladorPrueba : public Rotulador {
-  public:
-    struct Escrito {
-        double x, y;
-        std::string texto;
-        double tamano;
-    };
-    std::vector<Escrito> escritos;
-
-    static double Caracteres(const std::string &t) {
-        return static_cast<double>(
-            std::count_if(t.begin(), t.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-    }
-    double Ancho(const Fuente &f, const std::string &t) override {
-        return Caracteres(t) * f.Tamano * 0.8;
-    }
-    double Alto(const Fuente &, const std::string &) override { return 13; }
-    void Dibuja(Superficie &, const Fuente &f, double x, double y, Color,
-                const std::string &t) override {
-        escritos.push_back({x, y, t, f.Tamano});
-    }
-    // What was written at (x, y) last, or "-".
-    std::string En(double x, double y) const {
-        for (auto e = escritos.rbegin(); e != escritos.rend(); ++e) {
-            if (e->x == x && e->y == y) {
-                return e->texto;
-            }
-        }
-        return "-";
-    }
-};
-
 class Libro : public Historia {
   protected:
     void SetUp() override {

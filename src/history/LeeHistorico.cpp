@@ -15,6 +15,7 @@
 #include "history/CamposHistorico.h"
 #include "history/Historico.h"
 #include "history/LectorCampos.h"
+#include "platform/raster/Superficie.h"
 #include "services/Mensajes.h"
 
 using namespace PuzzGbl;
@@ -23,6 +24,34 @@ namespace {
 
 // A full table is a few megabytes; what lies beyond this is not read.
 constexpr size_t TAMANO_MAXIMO = size_t{64} << 20;
+
+// The lines the message's text takes in its label, 365 pixels wide in the
+// message's letter, and never fewer than the text was given: a face wider
+// than the one the text was measured for must not cut its last words.
+int16_t LineasDelMensaje(const std::string &texto, int16_t minimo) {
+    Rotulador *r = RotuladorActual();
+    if (r == nullptr) {
+        return minimo;
+    }
+    const Fuente letra{"MS Sans Serif", 9.75, false};
+    constexpr double ANCHO_ETIQUETA = 360; // the label's 365, less what its wrapping keeps free
+    int16_t lineas = 1;
+    std::string linea;
+    size_t i = 0;
+    while (i < texto.size()) {
+        const size_t fin = std::min(texto.find(' ', i), texto.size());
+        const std::string palabra = texto.substr(i, fin - i);
+        const std::string prueba = linea.empty() ? palabra : linea + " " + palabra;
+        if (!linea.empty() && r->Ancho(letra, prueba) > ANCHO_ETIQUETA) {
+            ++lineas;
+            linea = palabra;
+        } else {
+            linea = prueba;
+        }
+        i = fin + 1;
+    }
+    return std::max(lineas, minimo);
+}
 
 // The error handler of the reading: the number is kept, and told unless it
 // is 6 or 62 or was told already in this reading (a badly damaged file
@@ -36,9 +65,9 @@ struct Errores {
             !dichos.insert(numero).second) {
             return;
         }
-        MuestraMensaje("Error leyendo el fichero histórico",
-                       TextoErrorHis(numero, UnidadDeCarpeta(DirectorioTrabajo)),
-                       numero == ERROR_FICHERO_NO_ENCONTRADO ? 2 : 1, 1);
+        const std::string texto = TextoErrorHis(numero, UnidadDeCarpeta(DirectorioTrabajo));
+        MuestraMensaje("Error leyendo el fichero histórico", texto,
+                       LineasDelMensaje(texto, numero == ERROR_FICHERO_NO_ENCONTRADO ? 2 : 1), 1);
     }
 };
 

@@ -129,7 +129,6 @@ VentanaTeselari &Form_Load() {
     const QRect pantalla = QGuiApplication::primaryScreen()->geometry();
     AnchoPantalla = static_cast<int16_t>(pantalla.width());
     AltoPantalla = static_cast<int16_t>(pantalla.height());
-    PreparaHistorico();
     // The five regions exist for the whole run; they start empty.
     for (Region *r : {&RegionAnterior, &RegionNueva, &RegionRecorte, &RegionPieza, &RegionSuelta}) {
         SetRectRgn(*r, 0, 0, 0, 0);
@@ -139,6 +138,8 @@ VentanaTeselari &Form_Load() {
     BotonPulsado.fill(FALSO);
     CargaRecurso(RutaTiraBotones(), teselari.Pic_BmpBoton);
     CargaRecurso(RutaCaraCronometro(), teselari.Pic_Cronome);
+    // The history read, its book installed; its message has the strip now.
+    PreparaHistorico();
 
     ventana = new VentanaTeselari();
     ConectaManejadores(*ventana);
