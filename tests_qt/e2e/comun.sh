@@ -70,6 +70,22 @@ arranca_juego() {
     export QT_QPA_PLATFORM=xcb
     (cd "$carpeta" && exec ./teselari) >"$salida/teselari.log" 2>&1 &
     pid_juego=$!
+    pasa_careta
+}
+
+# The splash comes first, after the second of calibration: a key ends it as
+# a player would, and it must be gone at once.
+pasa_careta() {
+    espera_nombre '^careta$'
+    sleep 0.5
+    import -window root "$salida/careta.png"
+    xdotool key space
+    local paso
+    for paso in $(seq 30); do
+        xdotool search --onlyvisible --name '^careta$' >/dev/null 2>&1 || return 0
+        sleep 0.1
+    done
+    falla "the splash did not end on a key"
 }
 
 # Waits up to 20 seconds for a visible window whose name matches; leaves its
