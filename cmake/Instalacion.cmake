@@ -1,12 +1,14 @@
 # The installed game, laid out by GNUInstallDirs under any prefix:
 #
 #   bin/teselari                                the executable
+#   games/teselari                              a link to it, where Debian keeps games
 #   share/teselari/                             the program's folder: the sample pictures
 #   share/applications/es.teselari.Teselari.desktop
 #   share/metainfo/es.teselari.Teselari.metainfo.xml
 #   share/icons/hicolor/NxN/apps/teselari.png   32, 48, 64, 128, 256
 #   share/icons/hicolor/scalable/apps/teselari.svg
 #   share/doc/teselari/copyright, changelog.gz
+#   share/man/man6/teselari.6.gz
 #
 # The executable finds its program's folder relative to its own, so the tree
 # works wherever it is put. Included by the top CMakeLists.txt once the
@@ -36,7 +38,10 @@ configure_file(${_esc}/changelog.in ${_gen}/changelog @ONLY)
 add_custom_command(OUTPUT ${_gen}/changelog.gz
   COMMAND gzip -9nc ${_gen}/changelog > ${_gen}/changelog.gz
   DEPENDS ${_gen}/changelog VERBATIM)
-add_custom_target(teselari_cambios ALL DEPENDS ${_gen}/changelog.gz)
+add_custom_command(OUTPUT ${_gen}/teselari.6.gz
+  COMMAND gzip -9nc ${_esc}/teselari.6 > ${_gen}/teselari.6.gz
+  DEPENDS ${_esc}/teselari.6 VERBATIM)
+add_custom_target(teselari_cambios ALL DEPENDS ${_gen}/changelog.gz ${_gen}/teselari.6.gz)
 
 teselari_instala_muestras(${TESELARI_CARPETA_DATOS})
 install(FILES ${_esc}/${TESELARI_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
@@ -48,4 +53,9 @@ foreach(_lado 32 48 64 128 256)
 endforeach()
 install(FILES ${CMAKE_CURRENT_SOURCE_DIR}/assets/iconos/teselari.svg
   DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+file(RELATIVE_PATH _teselari_desde_games ${CMAKE_INSTALL_PREFIX}/games
+  ${CMAKE_INSTALL_FULL_BINDIR}/teselari)
+file(CREATE_LINK ${_teselari_desde_games} ${_gen}/teselari SYMBOLIC)
+install(FILES ${_gen}/teselari DESTINATION games)
+install(FILES ${_gen}/teselari.6.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 install(FILES ${_gen}/copyright ${_gen}/changelog.gz DESTINATION ${TESELARI_CARPETA_DOC})

@@ -26,12 +26,13 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${TESELARI_MANTENEDOR}")
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "jigsaw puzzles of any picture (in Spanish)")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "${CPACK_PACKAGE_DESCRIPTION_SUMMARY}
- Teselari cuts any picture into a puzzle of 3 x 3 up to 20 x 20 cells and
- deals the pieces over the screen, to be put back together with the mouse.
- It has six cuts (rectangles, classic pieces with knobs, and four double
- puzzles of circles, rectangles, ellipses and stars), reads BMP, JPEG, WMF
- and EMF pictures or the clipboard's, and keeps the game in progress between
- runs. The game speaks Spanish.")
+# The synopsis comes from the summary; CPack indents the rest.
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+  "Teselari cuts any picture into a puzzle of 3 x 3 up to 20 x 20 cells and
+deals the pieces over the screen, to be put back together with the mouse.
+It has six cuts (rectangles, classic pieces with knobs, and four double
+puzzles of circles, rectangles, ellipses and stars), reads BMP, JPEG, WMF
+and EMF pictures or the clipboard's, and keeps the game in progress between
+runs. The game speaks Spanish.")
 
 include(CPack)

@@ -109,8 +109,10 @@ espera_ventana() {
 
 # Presses command 11, "Salir de la aplicación", the last button of the
 # always-visible panel, answers its question with a key and waits for the
-# program to end by itself with status 0.
+# program to end by itself with status 0, leaving TESEL32.INI in its working
+# folder (by default the program's).
 sale_con_boton_11() {
+    local trabajo=${1:-$carpeta}
     xdotool mousemove $((ANCHO - 49)) 612 click 1
     sleep 1
     import -window root "$salida/salir.png"
@@ -124,5 +126,5 @@ sale_con_boton_11() {
     local estado=$?
     pid_juego=""
     [[ $estado -eq 0 ]] || falla "the game ended with status $estado"
-    [[ -s "$carpeta/TESEL32.INI" ]] || falla "no TESEL32.INI was written at the exit"
+    [[ -s "$trabajo/TESEL32.INI" ]] || falla "no TESEL32.INI was written at the exit"
 }
