@@ -74,10 +74,11 @@ arranca_juego() {
 }
 
 # The splash comes first, after the second of calibration: a key ends it as
-# a player would, and it must be gone at once.
+# a player would (after ESPERA_CARETA seconds, by default half of one), and
+# it must be gone at once.
 pasa_careta() {
     espera_nombre '^careta$'
-    sleep 0.5
+    sleep "${ESPERA_CARETA:-0.5}"
     import -window root "$salida/careta.png"
     xdotool key space
     local paso
