@@ -36,18 +36,30 @@ falla() {
 
 # A free display number, and the server on it.
 arranca_pantalla() {
-    local pantalla=99
-    while [[ -e /tmp/.X11-unix/X$pantalla || -e /tmp/.X$pantalla-lock ]]; do
+    local pantalla=99 intento
+    for intento in 1 2 3 4 5; do
+        while [[ -e /tmp/.X11-unix/X$pantalla || -e /tmp/.X$pantalla-lock ]]; do
+            pantalla=$((pantalla + 1))
+        done
+        export DISPLAY=:$pantalla
+        Xvfb "$DISPLAY" -screen 0 ${ANCHO}x${ALTO}x24 -nolisten tcp >/dev/null 2>&1 &
+        pid_x=$!
+        for _ in $(seq 50); do
+            # Another server that took the number first makes ours give up:
+            # only our own server counts.
+            kill -0 "$pid_x" 2>/dev/null || break
+            if xdotool getdisplaygeometry >/dev/null 2>&1; then
+                sleep 0.3
+                kill -0 "$pid_x" 2>/dev/null && return 0
+                break
+            fi
+            sleep 0.1
+        done
+        kill "$pid_x" 2>/dev/null && wait "$pid_x" 2>/dev/null
+        pid_x=""
         pantalla=$((pantalla + 1))
     done
-    export DISPLAY=:$pantalla
-    Xvfb "$DISPLAY" -screen 0 ${ANCHO}x${ALTO}x24 -nolisten tcp >/dev/null 2>&1 &
-    pid_x=$!
-    for _ in $(seq 50); do
-        xdotool getdisplaygeometry >/dev/null 2>&1 && break
-        sleep 0.1
-    done
-    xdotool getdisplaygeometry >/dev/null 2>&1 || falla "Xvfb did not start"
+    falla "Xvfb did not start"
 }
 
 # The program and the sample pictures into the temporary folder, which is
