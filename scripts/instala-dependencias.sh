@@ -25,6 +25,13 @@ PAQUETES=(
     xvfb
     xdotool
     imagemagick
+    # The Debian package and the checks of the installed tree.
+    dpkg-dev
+    fakeroot
+    file
+    lintian
+    desktop-file-utils
+    appstream
 )
 
 falta=()

@@ -129,6 +129,7 @@ void BM_ArranquePrimerFotograma(benchmark::State &state) {
         return;
     }
     PonArranqueMedido(VUELTAS_FIJAS, QString::fromStdString(p->carpeta));
+    PonCaretaEnArranque(false);
     bool mensaje = false;
     QTimer vigia;
     QObject::connect(&vigia, &QTimer::timeout, [&] { mensaje = CierraMensajes() || mensaje; });
@@ -153,6 +154,7 @@ void BM_ArranquePrimerFotograma(benchmark::State &state) {
         QApplication::processEvents();
     }
     PonArranqueMedido(0.0, QString());
+    PonCaretaEnArranque(true);
     if (mensaje || !restaurada) {
         state.SkipWithError("the saved game was not brought back as written");
     }

@@ -53,6 +53,13 @@ void DejaImagenEnBlanco(Superficie &destino);
 void PonDirectorioPrograma(const std::string &carpeta);
 const std::string &DirectorioPrograma();
 
+// The program's folder for an executable in `carpetaEjecutable`: the
+// installed game's data folder, `datosInstalados` relative to the
+// executable's folder ("../share/teselari"), when there is one; else the
+// executable's own folder, as in the build tree.
+std::string CarpetaDelPrograma(const std::string &carpetaEjecutable,
+                               const std::string &datosInstalados);
+
 // The user's data folder for the game, with a closing "/":
 // $XDG_DATA_HOME/teselari/ or ~/.local/share/teselari/.
 std::string DirectorioDatos();
