@@ -140,6 +140,23 @@ TEST_F(Dialogo, ElMismoFicheroOtraVezDevuelveSuZoom) {
     EXPECT_EQ(teselari.Pic_Origin.Ancho(), 330);
 }
 
+// The saved game has no way to write a double quote or a line break: such a
+// file is refused, and the picture chosen before stays.
+TEST_F(Dialogo, UnNombreConComillasOSaltoNoSeToma) {
+    for (const char *nombre : {"con\"comillas.bmp", "dos\nlineas.bmp"}) {
+        EscribeBmp(nombre, 400, 300);
+        Abre();
+        Elige(nombre);
+        ASSERT_EQ(sesion_prueba::mensajes.size(), 1u) << nombre;
+        EXPECT_EQ(sesion_prueba::mensajes[0].titulo, "Imagen no válida");
+        EXPECT_EQ(sesion_prueba::mensajes[0].lineas, 5);
+        EXPECT_EQ(sesion_prueba::sonidos.back(), 9);
+        EXPECT_EQ(FicheroImagen, fotos + "/a.bmp");
+        EXPECT_EQ(ImagenValida, VERDADERO);
+        EXPECT_EQ(teselari.Pic_Origin.Ancho(), 640);
+    }
+}
+
 TEST(ListaDialogo, PatronDeImagenesSinMayusculas) {
     const std::string patron = "*.bmp;*.rle;*.wmf;*.emf;*.jpg";
     const std::pair<const char *, bool> casos[] = {

@@ -9,9 +9,11 @@
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
 #include "core/Sesion.h"
+#include "core/TextoIni.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/GuardaBmp.h"
 #include "dialog/ServiciosDialogo.h"
+#include "dialog/TextosDialogo.h"
 #include "platform/raster/Raster.h"
 #include "services/Mensajes.h"
 #include "services/Sonidos.h"
@@ -37,32 +39,6 @@ std::string Une(const std::string &carpeta, const std::string &nombre) {
         ruta += '/';
     }
     return ruta + nombre;
-}
-
-// A number as a message writes it: a leading blank, no trailing one.
-std::string N(int32_t v) {
-    std::string texto(v < 0 ? "" : " ");
-    texto += std::to_string(v);
-    return texto;
-}
-
-std::string TextoNoValida(int32_t w, int32_t h) {
-    const std::string &nl = NuevaLinea;
-    return "La  imagen  que  acaba  de  seleccionar  (" + N(w) + " x" + N(h) + " pixels)" + nl +
-           "no puede ser utilizada en Teselari.  Aunque se le aplique el máximo   valor   del   "
-           "Zoom   no  entra  dentro  de  los  límites permitidos:" +
-           nl + nl + "               Entre 320 y 1.024 pixels de anchura." + nl +
-           "               Entre 240 y 768 pixels de altura." + nl + nl +
-           "Seleccione otra imagen que sirva de fondo para el puzzle.";
-}
-
-std::string TextoFueraDeLimites(int32_t w, int32_t h) {
-    const std::string &nl = NuevaLinea;
-    return "El   tamaño   de   la   imagen   que   acaba  de   seleccionar" + nl + "(" + N(w) +
-           " x" + N(h) + " pixels ) no está dentro de los límites permitidos:" + nl + nl +
-           "               Entre 320 y 1.024 pixels de anchura." + nl +
-           "               Entre 240 y 768 pixels de altura." + nl + nl +
-           "Se ha modificado el Zoom para adaptar la imagen a dichos límites.";
 }
 
 // The mount point the process's current folder stands on.
@@ -99,6 +75,13 @@ void FormAbrirFic::File1_Click() {
         ReproduceSonido(12);
     }
     const std::string nombre = File1.Text();
+    if (!CadenaEscribible(Une(Dir1.Path(), nombre))) {
+        // The saved game could not keep this path: the pick is not taken,
+        // and the picture and its names stay as they were.
+        ReproduceSonido(9);
+        MuestraMensaje(MensajeNombreNoEscribible());
+        return;
+    }
     Pic_Comprobar.QuitaImagen();
     Pic_Comprobar.CambiaTamano(320, 240);
     Pic_Comprobar.QuitaImagen();
@@ -122,13 +105,13 @@ void FormAbrirFic::File1_Click() {
         if (Zoom < 5 || Zoom > 995 || desmesurada) {
             Pic_DatosBmp.Cls();
             ReproduceSonido(9);
-            MuestraMensaje("Imagen no válida", TextoNoValida(w, h), 9, 1);
+            MuestraMensaje(MensajeImagenNoValida(w, h));
             ImagenValida = FALSO;
             return;
         }
         if (Zoom != 100) {
             ImprimeZoom();
-            MuestraMensaje("Imagen fuera de límites", TextoFueraDeLimites(w, h), 8, 1);
+            MuestraMensaje(MensajeFueraDeLimites(w, h));
         }
         ImagenValida = VERDADERO;
     }
