@@ -65,6 +65,45 @@ TEST_P(ZoomDeFichero, LlevaLaImagenALosLimitesORechaza) {
 
 INSTANTIATE_TEST_SUITE_P(Tamanos, ZoomDeFichero, ::testing::ValuesIn(casosZoom));
 
+// A picture too large to hold whole comes reduced from the loader, which
+// states its own size: the rules and the rebuild count with that size.
+struct CasoGrande {
+    int32_t w, h;
+    int16_t zoom;
+    int32_t origenW, origenH;
+};
+
+CasoGrande grande;
+CargaDeImagen CargadorReducido(const std::string &, Superficie &destino) {
+    PintaImagenGenerada(destino, grande.w / 10, grande.h / 10);
+    return {EstadoCarga::Leida, grande.w, grande.h};
+}
+
+class ImagenGrande : public Dialogo, public ::testing::WithParamInterface<CasoGrande> {};
+
+TEST_P(ImagenGrande, ElZoomCuentaConElTamanoDelFichero) {
+    grande = GetParam();
+    EscribeBmp("g.bmp", 20, 20);
+    PonCargadorImagen(CargadorReducido);
+    Abre();
+    Elige("g.bmp");
+    EXPECT_EQ(Zoom, grande.zoom);
+    EXPECT_EQ(ImagenValida, VERDADERO);
+    ASSERT_EQ(sesion_prueba::mensajes.size(), 1u);
+    EXPECT_EQ(sesion_prueba::mensajes[0].titulo, "Imagen fuera de límites");
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), grande.origenW);
+    EXPECT_EQ(teselari.Pic_Origin.Alto(), grande.origenH);
+    // A step up is checked against the file's size too, and taken back.
+    f->Pic_Zoom_MouseDown(1, 0, 120, 30);
+    EXPECT_EQ(Zoom, grande.zoom);
+    EXPECT_EQ(sesion_prueba::mensajes.size(), 2u);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), grande.origenW);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tamanos, ImagenGrande,
+                         ::testing::Values(CasoGrande{10000, 7000, 10, 1000, 700},
+                                           CasoGrande{9000, 9000, 5, 450, 450}));
+
 // Pieces with knobs want proportions within 0.476..2.1, stars 0.416..2.4.
 struct CasoFormas {
     int32_t w, h;

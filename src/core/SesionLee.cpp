@@ -185,6 +185,12 @@ void RestauraSesion() {
         UnidadImagen = UnidadDeCarpeta(DirectorioTrabajo);
         CarpetaImagen = DirectorioTrabajo;
     }
+    // A drive that is not there is not kept: the dialog opens on the working
+    // folder's volume, and the next save names that one. (An empty one
+    // names none, and stays.)
+    if (!UnidadImagen.empty() && !UnidadPresente(UnidadImagen)) {
+        UnidadImagen = UnidadDeCarpeta(DirectorioTrabajo);
+    }
     int64_t w = 0, h = 0;
     switch (RecargaImagen(!l.errorLectura, w, h)) {
     case Recarga::Leida:

@@ -1,6 +1,7 @@
 // AbrirFic's opening: the snapshot, the folder, the panels drawn.
 #include "core/PuzzGbl.h"
 #include "core/Rejilla.h"
+#include "core/Sesion.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/ServiciosDialogo.h"
 #include "panels/Paneles.h"
@@ -86,9 +87,11 @@ void FormAbrirFic::TomaCopia() {
 }
 
 // A drive or folder that fails changes nothing and the opening goes on; a
+// drive that is not there gives way to the working folder's volume, and a
 // folder that is gone falls back on the working folder.
 void FormAbrirFic::AbreCarpetaInicial() {
-    Drive1.PonDrive(UnidadImagen);
+    Drive1.PonDrive(UnidadPresente(UnidadImagen) ? UnidadImagen
+                                                 : UnidadDeCarpeta(DirectorioTrabajo));
     if (Dir1.PonPath(CarpetaImagen) == ERROR_RUTA) {
         Dir1.PonPath(DirectorioTrabajo);
     }

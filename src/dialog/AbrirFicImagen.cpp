@@ -91,6 +91,9 @@ void FormAbrirFic::File1_Click() {
     FicheroEvaluado = true;
     const int32_t w = MedidaDeclarada(carga.Ancho), h = MedidaDeclarada(carga.Alto);
     const bool desmesurada = carga.Estado == EstadoCarga::Desmesurada;
+    // A picture not decoded is rebuilt from what stands: the blank.
+    AnchoComprobar = desmesurada ? Pic_Comprobar.Ancho() : w;
+    AltoComprobar = desmesurada ? Pic_Comprobar.Alto() : h;
     const float r = static_cast<float>(w) / static_cast<float>(h);
     VistaPrevia();
     FormasPermitidas(r);
@@ -125,8 +128,7 @@ void FormAbrirFic::File1_Click() {
 // The preview keeps the proportions, in the top left corner, stretched up
 // as well as down.
 void FormAbrirFic::VistaPrevia() {
-    const int32_t w = Pic_Comprobar.Ancho(), h = Pic_Comprobar.Alto();
-    const float r = static_cast<float>(w) / static_cast<float>(h);
+    const float r = static_cast<float>(AnchoComprobar) / static_cast<float>(AltoComprobar);
     const float cuatroTercios = 4.0f / 3.0f;
     int32_t a = 240, b = 180;
     if (cuatroTercios > r) {
@@ -136,7 +138,8 @@ void FormAbrirFic::VistaPrevia() {
     }
     Pic_Modelo.Cls();
     SetStretchBltMode(Pic_Modelo, COLORONCOLOR);
-    StretchBlt(Pic_Modelo, 0, 0, a, b, Pic_Comprobar, 0, 0, w, h, SRCCOPY);
+    StretchBlt(Pic_Modelo, 0, 0, a, b, Pic_Comprobar, 0, 0, Pic_Comprobar.Ancho(),
+               Pic_Comprobar.Alto(), SRCCOPY);
 }
 
 // Pieces with knobs need a picture not too far from square; stars a little
@@ -185,8 +188,8 @@ void FormAbrirFic::AjustaZoom(int32_t w, int32_t h) {
 
 void FormAbrirFic::CargaEnPicOrigin() {
     Superficie &o = teselari.Pic_Origin;
-    const int32_t w = Int(static_cast<double>(Pic_Comprobar.Ancho()) * Zoom / 100.0);
-    const int32_t h = Int(static_cast<double>(Pic_Comprobar.Alto()) * Zoom / 100.0);
+    const int32_t w = Int(static_cast<double>(AnchoComprobar) * Zoom / 100.0);
+    const int32_t h = Int(static_cast<double>(AltoComprobar) * Zoom / 100.0);
     o.QuitaImagen();
     o.CambiaTamano(w, h);
     SetStretchBltMode(o, COLORONCOLOR);

@@ -77,7 +77,7 @@ bool FormAbrirFic::LimiteZoom(bool subiendo) {
     const auto z = [](int32_t lado) {
         return static_cast<int64_t>(std::floor(static_cast<double>(Zoom) * lado / 100.0));
     };
-    const int64_t w = z(Pic_Comprobar.Ancho()), h = z(Pic_Comprobar.Alto());
+    const int64_t w = z(AnchoComprobar), h = z(AltoComprobar);
     const bool falla = subiendo ? (w > 1024 || h > 768) : (w < 320 || h < 240);
     if (!falla) {
         return true;
