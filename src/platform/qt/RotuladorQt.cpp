@@ -47,12 +47,24 @@ QFont FuenteQt(const Fuente &f) {
     return fuente;
 }
 
+namespace {
+
+// Text on a surface is not smoothed; fully hinted, its glyphs keep even
+// gaps at small sizes.
+QFont FuenteDeSuperficie(const Fuente &f) {
+    QFont fuente = FuenteQt(f);
+    fuente.setHintingPreference(QFont::PreferFullHinting);
+    return fuente;
+}
+
+} // namespace
+
 double RotuladorQt::Ancho(const Fuente &f, const std::string &texto) {
-    return QFontMetricsF(FuenteQt(f)).horizontalAdvance(QString::fromStdString(texto));
+    return QFontMetricsF(FuenteDeSuperficie(f)).horizontalAdvance(QString::fromStdString(texto));
 }
 
 double RotuladorQt::Alto(const Fuente &f, const std::string &) {
-    return std::ceil(QFontMetricsF(FuenteQt(f)).height());
+    return std::ceil(QFontMetricsF(FuenteDeSuperficie(f)).height());
 }
 
 void RotuladorQt::Dibuja(Superficie &s, const Fuente &f, double x, double y, Color c,
@@ -70,7 +82,7 @@ void RotuladorQt::Dibuja(Superficie &s, const Fuente &f, double x, double y, Col
         }
         p.setClipRegion(zona);
     }
-    const QFont fuente = FuenteQt(f);
+    const QFont fuente = FuenteDeSuperficie(f);
     p.setFont(fuente);
     p.setPen(QColor::fromRgb(APixel(c)));
     p.drawText(QPointF(x, y + QFontMetricsF(fuente).ascent()), QString::fromStdString(texto));
