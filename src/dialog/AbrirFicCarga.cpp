@@ -1,5 +1,6 @@
 // AbrirFic's opening: the snapshot, the folder, the panels drawn.
 #include "core/PuzzGbl.h"
+#include "core/Redondeo.h"
 #include "core/Rejilla.h"
 #include "core/Sesion.h"
 #include "dialog/FormAbrirFic.h"
@@ -19,8 +20,9 @@ constexpr int16_t ERROR_RUTA = 76;
 } // namespace
 
 void FormAbrirFic::Form_Load() {
-    Left = (AnchoPantalla - Formulario.Ancho()) / 2;
-    Top = (AltoPantalla - Formulario.Alto()) / 2;
+    // Centred; a half pixel goes to the even side.
+    Left = Redondea((AnchoPantalla - Formulario.Ancho()) / 2.0);
+    Top = Redondea((AltoPantalla - Formulario.Alto()) / 2.0);
     Formulario.Caja(0, 0, 639, 479, GRIS_OSCURO);
     Formulario.Line(0, 0, 639, 0, COLOR_BLANCO);
     Formulario.Line(0, 0, 0, 479, COLOR_BLANCO);
