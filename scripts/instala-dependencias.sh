@@ -19,7 +19,10 @@ PAQUETES=(
     fonts-urw-base35
     libemf2svg-dev
     libgl-dev
+    # The asset generator draws its letters from the DejaVu files; the game's
+    # text is Liberation Sans, which stands for "MS Sans Serif" and "Arial".
     fonts-dejavu-core
+    fonts-liberation
     clang-format
     # For the end-to-end tests of the game window.
     xvfb

@@ -9,6 +9,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QImage>
 #include <QTimer>
 #include <QWidget>
@@ -182,9 +183,11 @@ int main(int argc, char *argv[]) {
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
+    std::error_code ec;
     if (const PartidaGuardada *p = PreparaPartidaGuardada()) {
-        std::error_code ec;
         std::filesystem::remove_all(p->carpeta, ec);
     }
+    // The large JPEG of BM_CargaJpegGrande.
+    std::filesystem::remove(QDir::tempPath().toStdString() + "/teselari-bench-grande.jpg", ec);
     return 0;
 }

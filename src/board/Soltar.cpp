@@ -89,7 +89,7 @@ void SueltaPieza() {
 void TerminaPartida() {
     ParaCronometro();
     RestauraBitmap();
-    MuestraMensaje("TESELARI", "Ha conseguido resolver el puzzle", 1, 1);
+    MuestraMensaje(MensajePuzzleResuelto());
     // The history book is not there yet: this is where the finished game is
     // entered in it, when PartidaValida is set, after the message. A deal is
     // entered once: PartidaValida is cleared with the entry, so finishing the
@@ -117,4 +117,8 @@ void Pic_Trabajo_MouseUp(int16_t, int16_t, float x, float y) {
     PiezaLevantada = FALSO;
     PiezaSoltandose = FALSO;
     Pic_Trabajo_MouseMove(0, 0, x, y);
+}
+
+Mensaje MensajePuzzleResuelto() {
+    return {"TESELARI", "Ha conseguido resolver el puzzle", 1, 1};
 }

@@ -106,6 +106,10 @@ std::string UnidadDeCarpeta(const std::string &carpeta) {
     return unidad;
 }
 
+bool UnidadPresente(const std::string &unidad) {
+    return !unidad.empty() && UnidadDeCarpeta(unidad) == unidad;
+}
+
 void CompruebaSiCD() {
     if (chdir(DirectorioTrabajo.c_str()) != 0) {
         // Not entered: the test below tells whether it can be used at all.
