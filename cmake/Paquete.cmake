@@ -4,9 +4,10 @@
 # linking it is listed here, in one place.
 
 # Run-time packages the game does not link:
-#   fonts-dejavu-core   the plain sans face of every text of the game
+#   fonts-liberation    Liberation Sans, the face of the forms and the messages
+#   fonts-dejavu-core   the desktop's plain sans face, for the help window's text
 #   fonts-urw-base35    the fonts without which libwmf reads no WMF picture
-set(TESELARI_PAQUETES_EJECUCION fonts-dejavu-core fonts-urw-base35)
+set(TESELARI_PAQUETES_EJECUCION fonts-liberation fonts-dejavu-core fonts-urw-base35)
 # Wanted but not needed: Qt's native Wayland platform (without it the game
 # runs through XWayland).
 set(TESELARI_PAQUETES_RECOMENDADOS qt6-wayland)
