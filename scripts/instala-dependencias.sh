@@ -19,12 +19,22 @@ PAQUETES=(
     fonts-urw-base35
     libemf2svg-dev
     libgl-dev
+    # The asset generator draws its letters from the DejaVu files; the game's
+    # text is Liberation Sans, which stands for "MS Sans Serif" and "Arial".
     fonts-dejavu-core
+    fonts-liberation
     clang-format
     # For the end-to-end tests of the game window.
     xvfb
     xdotool
     imagemagick
+    # The Debian package and the checks of the installed tree.
+    dpkg-dev
+    fakeroot
+    file
+    lintian
+    desktop-file-utils
+    appstream
 )
 
 falta=()

@@ -212,6 +212,24 @@ TEST_F(Dialogo, UnaCarpetaQueYaNoExisteLlevaALaDeTrabajo) {
     EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 12), 1); // the folder's change
 }
 
+// A drive that is not there (a file written on Windows, a volume since
+// unplugged) is not offered: the dialog opens on the working folder's
+// volume, and a picture taken there names that one.
+TEST_F(Dialogo, UnaUnidadQueNoEstaNoSeOfrece) {
+    for (const char *unidad : {"C:", "/media/teselari-desenchufada"}) {
+        EscribeBmp("../programa/t.bmp", 640, 480);
+        UnidadImagen = unidad;
+        CarpetaImagen = std::string(unidad) + "/fotos";
+        NombreImagen = "a.bmp"; // not there: the first file is taken, as if clicked
+        Abre();
+        const auto &lista = f->Drive1.Elementos();
+        EXPECT_EQ(std::count(lista.begin(), lista.end(), unidad), 0) << unidad;
+        EXPECT_EQ(f->Drive1.Drive(), UnidadDeCarpeta(DirectorioTrabajo)) << unidad;
+        EXPECT_EQ(f->Dir1.Path(), programa);
+        EXPECT_EQ(UnidadImagen, UnidadDeCarpeta(DirectorioTrabajo)) << unidad;
+    }
+}
+
 TEST_F(Dialogo, LaPaginaDeBotonesVuelveAMostrarLoElegido) {
     BotonEnSiempre.fill(true);
     BotonEnDerecho.fill(false);

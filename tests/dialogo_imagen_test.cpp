@@ -65,6 +65,45 @@ TEST_P(ZoomDeFichero, LlevaLaImagenALosLimitesORechaza) {
 
 INSTANTIATE_TEST_SUITE_P(Tamanos, ZoomDeFichero, ::testing::ValuesIn(casosZoom));
 
+// A picture too large to hold whole comes reduced from the loader, which
+// states its own size: the rules and the rebuild count with that size.
+struct CasoGrande {
+    int32_t w, h;
+    int16_t zoom;
+    int32_t origenW, origenH;
+};
+
+CasoGrande grande;
+CargaDeImagen CargadorReducido(const std::string &, Superficie &destino) {
+    PintaImagenGenerada(destino, grande.w / 10, grande.h / 10);
+    return {EstadoCarga::Leida, grande.w, grande.h};
+}
+
+class ImagenGrande : public Dialogo, public ::testing::WithParamInterface<CasoGrande> {};
+
+TEST_P(ImagenGrande, ElZoomCuentaConElTamanoDelFichero) {
+    grande = GetParam();
+    EscribeBmp("g.bmp", 20, 20);
+    PonCargadorImagen(CargadorReducido);
+    Abre();
+    Elige("g.bmp");
+    EXPECT_EQ(Zoom, grande.zoom);
+    EXPECT_EQ(ImagenValida, VERDADERO);
+    ASSERT_EQ(sesion_prueba::mensajes.size(), 1u);
+    EXPECT_EQ(sesion_prueba::mensajes[0].titulo, "Imagen fuera de límites");
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), grande.origenW);
+    EXPECT_EQ(teselari.Pic_Origin.Alto(), grande.origenH);
+    // A step up is checked against the file's size too, and taken back.
+    f->Pic_Zoom_MouseDown(1, 0, 120, 30);
+    EXPECT_EQ(Zoom, grande.zoom);
+    EXPECT_EQ(sesion_prueba::mensajes.size(), 2u);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), grande.origenW);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tamanos, ImagenGrande,
+                         ::testing::Values(CasoGrande{10000, 7000, 10, 1000, 700},
+                                           CasoGrande{9000, 9000, 5, 450, 450}));
+
 // Pieces with knobs want proportions within 0.476..2.1, stars 0.416..2.4.
 struct CasoFormas {
     int32_t w, h;
@@ -138,6 +177,23 @@ TEST_F(Dialogo, ElMismoFicheroOtraVezDevuelveSuZoom) {
     f->File1.Pulsa(f->File1.ListIndex());
     EXPECT_EQ(Zoom, 165);
     EXPECT_EQ(teselari.Pic_Origin.Ancho(), 330);
+}
+
+// The saved game has no way to write a double quote or a line break: such a
+// file is refused, and the picture chosen before stays.
+TEST_F(Dialogo, UnNombreConComillasOSaltoNoSeToma) {
+    for (const char *nombre : {"con\"comillas.bmp", "dos\nlineas.bmp"}) {
+        EscribeBmp(nombre, 400, 300);
+        Abre();
+        Elige(nombre);
+        ASSERT_EQ(sesion_prueba::mensajes.size(), 1u) << nombre;
+        EXPECT_EQ(sesion_prueba::mensajes[0].titulo, "Imagen no válida");
+        EXPECT_EQ(sesion_prueba::mensajes[0].lineas, 5);
+        EXPECT_EQ(sesion_prueba::sonidos.back(), 9);
+        EXPECT_EQ(FicheroImagen, fotos + "/a.bmp");
+        EXPECT_EQ(ImagenValida, VERDADERO);
+        EXPECT_EQ(teselari.Pic_Origin.Ancho(), 640);
+    }
 }
 
 TEST(ListaDialogo, PatronDeImagenesSinMayusculas) {

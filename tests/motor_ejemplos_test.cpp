@@ -233,6 +233,30 @@ TEST_F(Motor, BarrasYModeloSeColocan) {
     }
 }
 
+// The model is the picture at half size, its size and its left rounded
+// halves to even.
+struct CasoModelo {
+    int32_t ancho, alto, anchoModelo, altoModelo, izquierda;
+};
+
+class ModeloAMitad : public Motor, public ::testing::WithParamInterface<CasoModelo> {};
+
+TEST_P(ModeloAMitad, RedondeaLaMitadAlPar) {
+    const CasoModelo c = GetParam();
+    PreparaJuego(4, 0, c.ancho, c.alto);
+    SesionRestaurando = VERDADERO;
+    PreparaBitmap();
+    EXPECT_EQ(teselari.Pic_Muestra.Ancho(), c.anchoModelo);
+    EXPECT_EQ(teselari.Pic_Muestra.Alto(), c.altoModelo);
+    EXPECT_EQ(teselari.Pic_Muestra.Left, c.izquierda);
+}
+
+INSTANTIATE_TEST_SUITE_P(Mitades, ModeloAMitad,
+                         ::testing::Values(CasoModelo{641, 481, 320, 240, 352},
+                                           CasoModelo{643, 483, 322, 242, 351},
+                                           CasoModelo{638, 480, 319, 240, 352},
+                                           CasoModelo{640, 480, 320, 240, 352}));
+
 TEST_F(Motor, ColorDeLosCortesSegunElFondo) {
     for (int16_t fondo = 0; fondo <= 5; ++fondo) {
         PreparaJuego(3, 0, 330, 240);

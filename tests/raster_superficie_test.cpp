@@ -13,8 +13,8 @@ TEST(RasterSuperficie, CambiaTamanoConservaYRellena) {
     const struct {
         double ancho, alto;
         int32_t w, h;
-    } casos[] = {
-        {10.4, 6.5, 10, 7}, {3, 2, 3, 2}, {14.6, 3.49, 15, 3}, {-3, 5, 0, 5}, {0, 0, 0, 0}};
+    } casos[] = {{10.4, 6.5, 10, 6}, {3, 2, 3, 2},    {14.6, 3.49, 15, 3}, {-3, 5, 0, 5},
+                 {0, 0, 0, 0},       {7.5, 4.5, 8, 4}}; // halves go to the even neighbour
     std::mt19937 azar(1);
     for (const auto &c : casos) {
         Superficie s = referencia::Aleatoria(8, 5, azar);

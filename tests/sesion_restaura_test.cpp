@@ -309,4 +309,19 @@ TEST_F(Sesion, FueraDeLaCarpetaDelProgramaElDialogoAbreEnLaDeTrabajo) {
     EXPECT_EQ(UnidadImagen, UnidadDeCarpeta(trabajo));
 }
 
+// A saved game written on Windows names drive "C:": it is not kept, and the
+// next save names the working folder's volume.
+TEST_F(Sesion, UnaUnidadQueNoEstaNoVuelveAlFichero) {
+    const std::string foto = programa + "/foto.img";
+    EscribeImagen(foto, 400, 300);
+    std::string ini = BloquesDeAjustes(foto, 100, 3, 0);
+    ini.replace(ini.find(",\"/\",\"/tmp\""), 12, ",\"C:\",\"/tmp\"");
+    EscribeFichero(programa + "/TESEL32.INI", ini);
+    DirectorioTrabajo = programa;
+    RestauraSesion();
+    EXPECT_EQ(UnidadImagen, UnidadDeCarpeta(programa));
+    GuardaSesion();
+    EXPECT_EQ(LeeFichero(programa + "/TESEL32.INI").find("\"C:\""), std::string::npos);
+}
+
 } // namespace

@@ -60,6 +60,27 @@ TEST(TextoIni, FormasEscritas) {
     EXPECT_EQ(LineaIni({"1", "\"a,b\"", "#TRUE#"}), "1,\"a,b\",#TRUE#\r\n");
 }
 
+// A string goes in Windows-1252 when the code page has it, byte for byte,
+// and as UTF-8 otherwise; either way it comes back whole.
+TEST(TextoIni, CadenasDeIdaYVuelta) {
+    const Conversion casos[] = {
+        {"/home/ana/Imágenes/año.jpg", "/home/ana/Im\xE1genes/a\xF1o.jpg"},
+        {"€ “Œ” ÿ", "\x80 \x93\x8C\x94 \xFF"},
+        {"Ã©", nullptr}, // its Windows-1252 bytes would read as UTF-8
+        {"/home/Фото/кот.jpg", nullptr},
+        {"/φωτογραφίες/θάλασσα.bmp", nullptr},
+        {"/图片/猫.jpg", nullptr},
+        {"/fotos/🐈 y año.jpg", nullptr},
+    };
+    for (const Conversion &c : casos) {
+        const std::string campo = CampoCadena(c.utf8);
+        EXPECT_EQ(campo, '"' + std::string(c.cp1252 != nullptr ? c.cp1252 : c.utf8) + '"');
+        const auto leidos = DivideCampos(LineaIni({campo, "1"}));
+        ASSERT_EQ(leidos.size(), 2u);
+        EXPECT_EQ(LeeCadena(leidos[0]), c.utf8);
+    }
+}
+
 TEST(TextoIni, DivideLineasConCrLfOLf) {
     EXPECT_EQ(DivideLineas("a\r\nb\r\n"), (std::vector<std::string>{"a", "b"}));
     EXPECT_EQ(DivideLineas("a\nb"), (std::vector<std::string>{"a", "b"}));

@@ -126,3 +126,24 @@ TEST_F(Sesion, LaUnidadDeUnaCarpetaEsUnPuntoDeMontajeQueLaContiene) {
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(Sesion, LaCarpetaDelProgramaInstaladoEsLaDeDatosJuntoAlEjecutable) {
+    fs::create_directories(raiz + "/usr/bin");
+    fs::create_directories(raiz + "/usr/share/teselari");
+    struct Caso {
+        std::string ejecutable, relativa, esperada;
+    };
+    const Caso casos[] = {
+        {raiz + "/usr/bin", "../share/teselari", raiz + "/usr/share/teselari"},
+        {raiz + "/usr/bin", "../share/otra", raiz + "/usr/bin"}, // not installed: the build tree
+        {raiz + "/usr/bin", "", raiz + "/usr/bin"},
+        {programa, "../share/teselari", programa},
+    };
+    for (const Caso &c : casos) {
+        EXPECT_EQ(CarpetaDelPrograma(c.ejecutable, c.relativa), c.esperada) << c.relativa;
+    }
+}
+
+} // namespace

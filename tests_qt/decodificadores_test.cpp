@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <QtEndian>
+#include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
@@ -196,14 +197,14 @@ const Danado CORPUS[] = {
      [] { return Pon<int32_t>(Pon<int32_t>(LeeMuestra("cuartos24.bmp"), 18, 100000), 22, 100000); },
      EstadoCarga::Desmesurada, 100000, 100000},
     {"bomba.rle",
-     [] { return Pon<int32_t>(Pon<int32_t>(LeeMuestra("cuartos.rle"), 18, 10000), 22, 9000); },
-     EstadoCarga::Desmesurada, 10000, 9000},
+     [] { return Pon<int32_t>(Pon<int32_t>(LeeMuestra("cuartos.rle"), 18, 10000), 22, 16000); },
+     EstadoCarga::Desmesurada, 10000, 16000},
     {"jpeg_sin_marco.jpg", [] { return Corta("cuartos.jpg", 30); }, EstadoCarga::EnBlanco},
     {"jpeg_a_medias.jpg", [] { return Corta("cuartos.jpg", 250); }, EstadoCarga::EnBlanco},
     {"jpeg_sin_fin.jpg", [] { return Corta("cuartos.jpg", LeeMuestra("cuartos.jpg").size() - 2); },
      EstadoCarga::EnBlanco},
     {"enorme.jpg", [] { return JpegDe(65000, 65000); }, EstadoCarga::Desmesurada, 65000, 65000},
-    {"bomba.jpg", [] { return JpegDe(9000, 9000); }, EstadoCarga::Desmesurada, 9000, 9000},
+    {"bomba.jpg", [] { return JpegDe(9000, 16000); }, EstadoCarga::Desmesurada, 9000, 16000},
     {"wmf_cortado.wmf", [] { return Corta("cuartos.wmf", 100); }, EstadoCarga::EnBlanco},
     {"wmf_solo_cabecera.wmf", [] { return Corta("cuartos.wmf", 22); }, EstadoCarga::EnBlanco},
     {"enorme.wmf", [] { return WmfDe(32000, 32000, 96); }, EstadoCarga::Desmesurada, 32000, 32000},
@@ -369,16 +370,77 @@ TEST(CargaImagenQt, LasMuestrasDelJuegoSeLeen) {
     }
 }
 
-TEST(TamanoDesmesurado, ElZoomMinimoYElTopeDePixeles) {
+// Many writers leave a run-length bitmap's data length at 0: it reads the
+// same as with it.
+TEST(RunLength, SinLargoDeDatosSeLeeIgual) {
+    for (const char *nombre : {"cuartos_rle8.bmp", "cuartos_rle4.bmp", "cuartos.rle"}) {
+        QTemporaryDir carpeta;
+        const QString ruta = carpeta.filePath(QStringLiteral("sin_largo.bmp"));
+        QFile f(ruta);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(Pon<uint32_t>(LeeMuestra(nombre), 34, 0));
+        f.close();
+        Superficie con, sin;
+        ASSERT_TRUE(CargaImagenQt(RutaMuestra(nombre).toStdString(), con).Leida()) << nombre;
+        ASSERT_TRUE(CargaImagenQt(ruta.toStdString(), sin).Leida()) << nombre;
+        EXPECT_EQ(sin.Pixeles(), con.Pixeles()) << nombre;
+    }
+}
+
+// A picture of more pixels than are decoded whole, made here in four
+// quarters: it reads, states its own size, and comes reduced to what the
+// largest zoom needs, its quarters in their places.
+TEST(ImagenGrande, SeLeeReducidaYDiceSuTamano) {
+    const struct {
+        const char *nombre;
+        int ancho, alto;
+    } casos[] = {{"grande.jpg", 10000, 7000}, {"grande.bmp", 9000, 9000}};
+    for (const auto &c : casos) {
+        QTemporaryDir carpeta;
+        const QString ruta = carpeta.filePath(QString::fromLatin1(c.nombre));
+        {
+            QImage cuartos(c.ancho, c.alto, QImage::Format_Indexed8);
+            cuartos.setColorTable(
+                {qRgb(255, 0, 0), qRgb(0, 255, 0), qRgb(0, 0, 255), qRgb(255, 255, 255)});
+            for (int y = 0; y < c.alto; ++y) {
+                uchar *fila = cuartos.scanLine(y);
+                const uchar arriba = y < c.alto / 2 ? 0 : 2;
+                std::memset(fila, arriba, static_cast<size_t>(c.ancho / 2));
+                std::memset(fila + c.ancho / 2, arriba + 1,
+                            static_cast<size_t>(c.ancho - c.ancho / 2));
+            }
+            ASSERT_TRUE(cuartos.save(ruta, nullptr, 90)) << c.nombre;
+        }
+        Superficie s;
+        const CargaDeImagen carga = CargaImagenQt(ruta.toStdString(), s);
+        ASSERT_EQ(carga.Estado, EstadoCarga::Leida) << c.nombre;
+        EXPECT_EQ(carga.Ancho, c.ancho);
+        EXPECT_EQ(carga.Alto, c.alto);
+        const QSize reducido = TamanoDecodificado(c.ancho, c.alto);
+        EXPECT_EQ(QSize(s.Ancho(), s.Alto()), reducido) << c.nombre;
+        // Enough for the largest zoom: 1024 x 768 at most, either way.
+        EXPECT_TRUE(s.Ancho() >= 1024 || s.Alto() >= 768) << c.nombre;
+        EXPECT_LE(s.Ancho(), 1025);
+        EXPECT_LE(s.Alto(), 769);
+        const int w = s.Ancho(), h = s.Alto();
+        const Color esperados[] = {RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255), COLOR_BLANCO};
+        for (int i = 0; i < 4; ++i) {
+            const Color leido = s.Point(i % 2 == 0 ? w / 4 : 3 * w / 4, i < 2 ? h / 4 : 3 * h / 4);
+            EXPECT_TRUE(ParecidoA(leido, esperados[i], 40)) << c.nombre << " " << i;
+        }
+    }
+}
+
+TEST(TamanoDesmesurado, ElZoomMinimo) {
     const struct {
         int64_t ancho, alto;
         bool desmesurado;
     } casos[] = {
-        {20499, 240, false}, {20500, 240, true},  // 5 % of the width: 1024 and 1025
-        {320, 15379, false}, {320, 15380, true},  // 5 % of the height: 768 and 769
-        {8192, 8192, false}, {8193, 8192, true},  // 64 M pixels and one row more
-        {0, 100000, false},  {-5, 100000, false}, // no size at all
-        {1, 1, false},       {4294967295, 4294967295, true},
+        {20499, 240, false},   {20500, 240, true},  // 5 % of the width: 1024 and 1025
+        {320, 15379, false},   {320, 15380, true},  // 5 % of the height: 768 and 769
+        {20499, 15379, false},                      // 315 M pixels: a zoom of 5 % serves
+        {0, 100000, false},    {-5, 100000, false}, // no size at all
+        {1, 1, false},         {4294967295, 4294967295, true},
     };
     for (const auto &c : casos) {
         EXPECT_EQ(TamanoDesmesurado(c.ancho, c.alto), c.desmesurado) << c.ancho << " x " << c.alto;

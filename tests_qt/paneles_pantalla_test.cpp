@@ -94,6 +94,21 @@ TEST_F(PanelesPantalla, ElPanelFijoSeDisponeSegunElAltoDeLaPantalla) {
     // The count at the foot, across both columns when there are two.
     EXPECT_EQ(ventana->Pic_BSInfo->geometry(), QRect(3, d->alto - 3 - 23, d->anchoCuenta, 23));
     EXPECT_TRUE(ventana->Pic_BSInfo->isVisible());
+    // The count is framed, sunken, and its text stands in the middle.
+    const QImage cuenta = ventana->Pic_BSInfo->grab().toImage();
+    EXPECT_EQ(cuenta.pixel(0, 0) & 0xFFFFFF, 0x808080u);
+    EXPECT_EQ(cuenta.pixel(cuenta.width() - 1, cuenta.height() - 1) & 0xFFFFFF, 0xFFFFFFu);
+    int izquierda = cuenta.width(), derecha = -1;
+    for (int y = 0; y < cuenta.height(); ++y) {
+        for (int x = 0; x < cuenta.width(); ++x) {
+            if ((cuenta.pixel(x, y) & 0xFFFFFF) == 0x0000FF) {
+                izquierda = std::min(izquierda, x);
+                derecha = std::max(derecha, x);
+            }
+        }
+    }
+    ASSERT_GE(derecha, izquierda);
+    EXPECT_LE(std::abs(izquierda - (cuenta.width() - 1 - derecha)), 2);
     // The frame as the screen shows it: light at the top left, dark at the
     // bottom right.
     EXPECT_EQ(ColorEnPantalla(*ventana, panel->geometry().topLeft()), 0xFFFFFFu);

@@ -34,7 +34,7 @@ TEST(Cursores, LasCuatroManosDeLosRecursos) {
 TEST(RotuladorQt, TamanosQueGuardanLasAlturasDeLinea) {
     RotuladorQt r;
     EXPECT_EQ(PixelesDePuntos(8.25), 11);
-    EXPECT_EQ(PixelesDePuntos(9.75), 13);
+    EXPECT_EQ(PixelesDePuntos(9.75), 12); // the messages, a pixel smaller
     EXPECT_EQ(PixelesDePuntos(12), 16);
     const Fuente normal;
     const double alto = r.Alto(normal, "Ág");

@@ -22,6 +22,7 @@
 #include "dialog/GuardaBmp.h"
 #include "platform/qt/Arranque.h"
 #include "platform/qt/CargaImagenQt.h"
+#include "platform/qt/RotuladorQt.h"
 #include "platform/qt/VentanaAbrirFic.h"
 #include "platform/qt/VistaSuperficie.h"
 #include "services/Ayuda.h"
@@ -292,4 +293,28 @@ TEST_F(VentanaAbrirFicTest, LaImagenDelPortapapelesSeGuardaEnLaCarpetaYQuedaEleg
     EXPECT_EQ(leida.Alto(), 300);
     EXPECT_EQ(leida.Point(0, 0), static_cast<Color>(0x0000FA));
     EXPECT_EQ(leida.Point(399, 299), static_cast<Color>(0x1EC80A));
+}
+
+// Every caption fits its control at the size the form gives it: none has to
+// be set smaller.
+TEST_F(VentanaAbrirFicTest, CadaRotuloCabeASuTamano) {
+    FormAbrirFic &f = *form;
+    std::vector<std::pair<std::string, double>> rotulos;
+    for (auto [nombre, boton] :
+         {std::pair{"Bot_Portapapeles", &f.Bot_Portapapeles},
+          std::pair{"Bot_Prueba", &f.Bot_Prueba}, std::pair{"Bot_Botones", &f.Bot_Botones},
+          std::pair{"Bot_QueEs", &f.Bot_QueEs}}) {
+        rotulos.emplace_back(nombre, boton->Letra.Tamano);
+    }
+    for (size_t i = 1; i < f.Lab_Botones.size(); ++i) {
+        const std::string n = "(" + std::to_string(i) + ")";
+        rotulos.emplace_back("Lab_Botones" + n, f.Lab_Botones[i].Letra.Tamano);
+        rotulos.emplace_back("Opt_Siempre" + n, Fuente{}.Tamano);
+        rotulos.emplace_back("Opt_Derecho" + n, Fuente{}.Tamano);
+    }
+    for (const auto &[nombre, puntos] : rotulos) {
+        QWidget *w = ventana->Control(nombre);
+        ASSERT_NE(w, nullptr) << nombre;
+        EXPECT_EQ(w->font().pixelSize(), PixelesDePuntos(puntos)) << nombre;
+    }
 }

@@ -9,6 +9,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QImage>
 #include <QTimer>
 #include <QWidget>
@@ -133,6 +134,7 @@ void BM_ArranquePrimerFotograma(benchmark::State &state) {
         return;
     }
     PonArranqueMedido(VUELTAS_FIJAS, QString::fromStdString(p->carpeta));
+    PonCaretaEnArranque(false);
     bool mensaje = false;
     QTimer vigia;
     QObject::connect(&vigia, &QTimer::timeout, [&] { mensaje = CierraMensajes() || mensaje; });
@@ -157,6 +159,7 @@ void BM_ArranquePrimerFotograma(benchmark::State &state) {
         QApplication::processEvents();
     }
     PonArranqueMedido(0.0, QString());
+    PonCaretaEnArranque(true);
     if (mensaje || !restaurada) {
         state.SkipWithError("the saved game was not brought back as written");
     }
@@ -184,9 +187,11 @@ int main(int argc, char *argv[]) {
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
+    std::error_code ec;
     if (const PartidaGuardada *p = PreparaPartidaGuardada()) {
-        std::error_code ec;
         std::filesystem::remove_all(p->carpeta, ec);
     }
+    // The large JPEG of BM_CargaJpegGrande.
+    std::filesystem::remove(QDir::tempPath().toStdString() + "/teselari-bench-grande.jpg", ec);
     return 0;
 }

@@ -6,6 +6,7 @@
 int main(int argc, char *argv[]) {
     QApplication aplicacion(argc, argv);
     QApplication::setApplicationName(QStringLiteral("teselari"));
+    PonIconoYEntradaEscritorio();
     Form_Load();
     if (ProgramaTerminado()) {
         return 0;

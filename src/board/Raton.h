@@ -6,6 +6,11 @@
 
 #include <cstdint>
 
+#include "services/Mensajes.h"
+
 void Pic_Trabajo_MouseDown(int16_t boton, int16_t shift, float x, float y);
 void Pic_Trabajo_MouseMove(int16_t boton, int16_t shift, float x, float y);
 void Pic_Trabajo_MouseUp(int16_t boton, int16_t shift, float x, float y);
+
+// The message of a puzzle finished by hand.
+Mensaje MensajePuzzleResuelto();

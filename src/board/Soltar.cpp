@@ -90,7 +90,7 @@ void SueltaPieza() {
 void TerminaPartida() {
     ParaCronometro();
     RestauraBitmap();
-    MuestraMensaje("TESELARI", "Ha conseguido resolver el puzzle", 1, 1);
+    MuestraMensaje(MensajePuzzleResuelto());
     // A fair game enters the history book once the message is acknowledged.
     // A deal is entered once: PartidaValida is cleared with the entry, so
     // finishing the same deal again (a piece lifted and dropped back, also
@@ -123,4 +123,8 @@ void Pic_Trabajo_MouseUp(int16_t, int16_t, float x, float y) {
     PiezaLevantada = FALSO;
     PiezaSoltandose = FALSO;
     Pic_Trabajo_MouseMove(0, 0, x, y);
+}
+
+Mensaje MensajePuzzleResuelto() {
+    return {"TESELARI", "Ha conseguido resolver el puzzle", 1, 1};
 }

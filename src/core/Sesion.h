@@ -22,15 +22,16 @@ enum class EstadoCarga : int8_t {
     Leida,       // decoded: the surface holds it at its own size
     EnBlanco,    // there, but it can't be decoded or is cut short
     Inexistente, // no such file, or it can't be opened
-    Desmesurada, // states a size that no zoom brings into the limits, or
-                 // more pixels than the game holds: it is not decoded, and
-                 // the size rules refuse it whatever zoom they compute
+    Desmesurada, // states a size that no zoom brings into the limits: it is
+                 // not decoded, and the size rules refuse it whatever zoom
+                 // they compute
 };
 
 // The outcome of a load. Ancho and Alto are the W and H the size rules
-// work with: the picture's own size when it was read, the size the file
-// states when it is too large, else 320 x 240. Whenever the picture was not
-// read, the surface is left a plain white 320 x 240.
+// work with: the picture's own size when it was read (also when the surface
+// holds it reduced), the size the file states when it is too large, else
+// 320 x 240. Whenever the picture was not read, the surface is left a plain
+// white 320 x 240.
 struct CargaDeImagen {
     EstadoCarga Estado = EstadoCarga::Inexistente;
     int64_t Ancho = 320;
@@ -38,8 +39,11 @@ struct CargaDeImagen {
     bool Leida() const { return Estado == EstadoCarga::Leida; }
 };
 
-// Loads a picture file into a surface at the file's own size (the platform
-// installs its decoders). Without a loader every file is Inexistente.
+// Loads a picture file into a surface (the platform installs its decoders):
+// at the file's own size, or, for a picture too large to hold whole, at a
+// reduced size in its proportions that still covers the largest picture any
+// zoom makes of it. Callers scale the whole surface to the zoomed size of
+// Ancho x Alto. Without a loader every file is Inexistente.
 using CargadorImagen = CargaDeImagen (*)(const std::string &fichero, Superficie &destino);
 void PonCargadorImagen(CargadorImagen c);
 CargaDeImagen CargaImagen(const std::string &fichero, Superficie &destino);
@@ -53,12 +57,23 @@ void DejaImagenEnBlanco(Superficie &destino);
 void PonDirectorioPrograma(const std::string &carpeta);
 const std::string &DirectorioPrograma();
 
+// The program's folder for an executable in `carpetaEjecutable`: the
+// installed game's data folder, `datosInstalados` relative to the
+// executable's folder ("../share/teselari"), when there is one; else the
+// executable's own folder, as in the build tree.
+std::string CarpetaDelPrograma(const std::string &carpetaEjecutable,
+                               const std::string &datosInstalados);
+
 // The user's data folder for the game, with a closing "/":
 // $XDG_DATA_HOME/teselari/ or ~/.local/share/teselari/.
 std::string DirectorioDatos();
 
 // The "drive" of a folder: the mount point of the volume that holds it.
 std::string UnidadDeCarpeta(const std::string &carpeta);
+
+// Whether a drive is there: a volume mounted now at that point. "C:" from
+// a file written on Windows, or a volume since unplugged, is not.
+bool UnidadPresente(const std::string &unidad);
 
 // The eleven files that go with the program, in the order they are copied:
 // the initialisation and history files, then the sample pictures.

@@ -60,11 +60,11 @@ void CargaImagenDeMuestra() {
     for (int i = PRIMERA_MUESTRA; i < NRO_FICHEROS_PROGRAMA; ++i) {
         const std::string fichero = carpeta + FicherosPrograma[i];
         teselari.Pic_W.QuitaImagen();
-        if (!CargaImagen(fichero, teselari.Pic_W).Leida() ||
-            !TamanoPermitido(AnchoConZoom(100), AltoConZoom(100))) {
+        const CargaDeImagen carga = CargaImagen(fichero, teselari.Pic_W);
+        if (!carga.Leida() || !TamanoPermitido(carga.Ancho, carga.Alto)) {
             continue;
         }
-        PasaImagenAOrigen(teselari.Pic_W.Ancho(), teselari.Pic_W.Alto());
+        PasaImagenAOrigen(static_cast<int32_t>(carga.Ancho), static_cast<int32_t>(carga.Alto));
         Zoom = 100;
         FicheroImagen = fichero;
         NombreImagen = FicherosPrograma[i];

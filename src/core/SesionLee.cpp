@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <initializer_list>
 
 #include "board/Barajar.h"
 #include "core/ErroresFichero.h"
@@ -13,6 +12,7 @@
 #include "core/SesionBloques.h"
 #include "core/SesionImagen.h"
 #include "core/TextoIni.h"
+#include "core/TextosSesion.h"
 #include "cutting/Corte.h"
 #include "panels/Comandos.h"
 #include "services/Mensajes.h"
@@ -30,8 +30,7 @@ constexpr size_t TAMANO_MAXIMO = 1 << 20;
 void TrataErrorFichero(int16_t numero) {
     ErrorFichero = numero;
     if (numero != 6) {
-        MuestraMensaje("Error leyendo fichero de datos iniciales",
-                       TextoErrorIni(numero, UnidadDeCarpeta(DirectorioTrabajo)), 3, 1);
+        MuestraMensaje(MensajeErrorIni(numero, UnidadDeCarpeta(DirectorioTrabajo)));
     }
 }
 
@@ -130,38 +129,10 @@ Recarga RecargaImagen(bool sinError, int64_t &w, int64_t &h) {
     return Recarga::Leida;
 }
 
-// The lines of a message, each but the last followed by NuevaLinea.
-std::string UneLineas(std::initializer_list<std::string> lineas) {
-    std::string texto;
-    for (const std::string &linea : lineas) {
-        if (&linea != lineas.begin()) {
-            texto += NuevaLinea;
-        }
-        texto += linea;
-    }
-    return texto;
-}
-
-// A number as it is written in a message: with a leading blank.
-std::string ConBlanco(int64_t n) {
-    std::string texto(n < 0 ? "" : " ");
-    texto += std::to_string(n);
-    return texto;
-}
-
 void RechazaImagen(int64_t w, int64_t h) {
     teselari.MousePointer = PUNTERO_NORMAL;
     ReproduceSonido(9);
-    std::string tamano = "(";
-    tamano += ConBlanco(w);
-    tamano += " x";
-    tamano += ConBlanco(h);
-    tamano += " pixels ) no está dentro de los límites permitidos:";
-    MuestraMensaje("Imagen no válida",
-                   UneLineas({"El  tamaño  de  la  imagen  que  está  intentando  cargar", tamano,
-                              "", "               Entre 320 y 1.024 pixels de anchura",
-                              "               Entre 240 y 768 pixels de altura"}),
-                   6, 1);
+    MuestraMensaje(MensajeImagenRechazada(w, h));
     DejaOrigenEnBlanco();
     Zoom = 100;
     ImagenValida = FALSO;
@@ -171,12 +142,7 @@ void RechazaImagen(int64_t w, int64_t h) {
 void LamentaImagenPerdida() {
     teselari.MousePointer = PUNTERO_NORMAL;
     ReproduceSonido(9);
-    MuestraMensaje("Cargar Imagen",
-                   UneLineas({"No  se  encuentra  la  imagen  utilizada  en  la  última  sesión:",
-                              "", FicheroImagen, "",
-                              "Cargue  desde  el  disco  una  imagen  que  sirva  de  fondo",
-                              "para  el  puzzle."}),
-                   6, 1);
+    MuestraMensaje(MensajeImagenPerdida(FicheroImagen));
     DejaOrigenEnBlanco();
     PideImagenYBaraja();
 }
@@ -218,6 +184,12 @@ void RestauraSesion() {
     if (DirectorioTrabajo != DirectorioPrograma()) {
         UnidadImagen = UnidadDeCarpeta(DirectorioTrabajo);
         CarpetaImagen = DirectorioTrabajo;
+    }
+    // A drive that is not there is not kept: the dialog opens on the working
+    // folder's volume, and the next save names that one. (An empty one
+    // names none, and stays.)
+    if (!UnidadImagen.empty() && !UnidadPresente(UnidadImagen)) {
+        UnidadImagen = UnidadDeCarpeta(DirectorioTrabajo);
     }
     int64_t w = 0, h = 0;
     switch (RecargaImagen(!l.errorLectura, w, h)) {

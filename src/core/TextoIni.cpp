@@ -121,8 +121,46 @@ std::string CampoNumero(int64_t valor) {
     return std::to_string(valor);
 }
 
+bool CabeEnWindows1252(std::string_view utf8) {
+    for (size_t i = 0; i < utf8.size();) {
+        const auto c = SiguienteUtf8(utf8, i);
+        if (c && ByteDeCaracter(*c) == '?' && *c != '?') {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool EsUtf8ConAcentos(std::string_view bytes) {
+    bool alto = false;
+    for (size_t i = 0; i < bytes.size();) {
+        alto = alto || static_cast<unsigned char>(bytes[i]) >= 0x80;
+        if (!SiguienteUtf8(bytes, i)) {
+            return false;
+        }
+    }
+    return alto;
+}
+
+std::string BytesDeCadena(std::string_view utf8) {
+    if (CabeEnWindows1252(utf8)) {
+        std::string bytes = AWindows1252(utf8);
+        if (!EsUtf8ConAcentos(bytes)) {
+            return bytes;
+        }
+    }
+    // Beyond the code page, or bytes the reader would take for UTF-8: the
+    // string goes as UTF-8, which the reader recognises. A byte that is not
+    // valid UTF-8 becomes "?".
+    return EsUtf8ConAcentos(utf8) ? std::string(utf8) : AWindows1252(utf8);
+}
+
+std::string CadenaDeBytes(std::string_view bytes) {
+    return EsUtf8ConAcentos(bytes) ? std::string(bytes) : DeWindows1252(bytes);
+}
+
 std::string CampoCadena(std::string_view utf8) {
-    return '"' + AWindows1252(utf8) + '"';
+    return '"' + BytesDeCadena(utf8) + '"';
 }
 
 std::string CampoLogico(bool valor) {
@@ -230,5 +268,9 @@ std::optional<std::string> LeeCadena(const CampoIni &campo) {
     if (!campo.cerrado) {
         return std::nullopt;
     }
-    return DeWindows1252(campo.texto);
+    return CadenaDeBytes(campo.texto);
+}
+
+bool CadenaEscribible(std::string_view utf8) {
+    return utf8.find_first_of("\"\r\n") == std::string_view::npos;
 }

@@ -74,6 +74,16 @@ const std::string &DirectorioPrograma() {
     return directorioPrograma;
 }
 
+std::string CarpetaDelPrograma(const std::string &carpetaEjecutable,
+                               const std::string &datosInstalados) {
+    if (datosInstalados.empty()) {
+        return carpetaEjecutable;
+    }
+    const fs::path instalada = (fs::path(carpetaEjecutable) / datosInstalados).lexically_normal();
+    std::error_code ec;
+    return fs::is_directory(instalada, ec) ? instalada.string() : carpetaEjecutable;
+}
+
 std::string DirectorioDatos() {
     const char *xdg = std::getenv("XDG_DATA_HOME");
     // A relative XDG_DATA_HOME is not valid and is passed over.
@@ -94,6 +104,10 @@ std::string UnidadDeCarpeta(const std::string &carpeta) {
         }
     }
     return unidad;
+}
+
+bool UnidadPresente(const std::string &unidad) {
+    return !unidad.empty() && UnidadDeCarpeta(unidad) == unidad;
 }
 
 void CompruebaSiCD() {

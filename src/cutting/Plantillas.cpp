@@ -22,6 +22,15 @@ void DibujaArco(Superficie &s, const ArcoPlantilla &a) {
     s.CircleArco(a.x, a.y, a.radio, Radianes(a.inicio), Radianes(a.fin), aspecto);
 }
 
+// The centres of the sockets: the middle arc of a side that is no knob.
+void AnadeHuecos(const ArcosPlantilla &arcos, std::vector<std::pair<int32_t, int32_t>> &huecos) {
+    for (size_t i = 1; i < arcos.size(); i += 3) {
+        if (!arcos[i].perilla) {
+            huecos.emplace_back(Redondea(arcos[i].x), Redondea(arcos[i].y));
+        }
+    }
+}
+
 // Corners, twelve arcs, and the fill from the centre of the cell.
 void DibujaPlantilla(Superficie &s, double x0, double y0, const ArcosPlantilla &arcos) {
     const double w = AnchoPieza, h = AltoPieza;
@@ -109,8 +118,20 @@ void ConstruyePlantillas() {
     s.Move(0, 0, AnchoPiezaTotal * 2.1, AltoPiezaTotal * 1.1);
     s.Cls();
     const double w = AnchoPieza, h = AltoPieza;
-    DibujaPlantilla(s, MargenX, MargenY, ArcosPlantillaA(MargenX, MargenY, w, h));
+    const ArcosPlantilla a = ArcosPlantillaA(MargenX, MargenY, w, h);
+    DibujaPlantilla(s, MargenX, MargenY, a);
     const double xb = MargenX + AnchoPiezaTotal;
-    DibujaPlantilla(s, xb, MargenY, ArcosPlantillaB(xb, MargenY, w, h, PiezasPorLado));
+    const ArcosPlantilla b = ArcosPlantillaB(xb, MargenY, w, h, PiezasPorLado);
+    DibujaPlantilla(s, xb, MargenY, b);
+    // Where a shoulder crosses the arc of a knob or a socket, the two
+    // outlines enclose a pixel or two that no fill reaches: they belong to
+    // the piece, and the templates come out solid. A socket whose mouth the
+    // shoulders close on a fine grid stays open: the neighbour's knob lies
+    // there.
+    std::vector<std::pair<int32_t, int32_t>> huecos;
+    AnadeHuecos(a, huecos);
+    AnadeHuecos(b, huecos);
+    s.FillColor = COLOR_NEGRO;
+    RellenaEncerrados(s, COLOR_BLANCO, huecos);
     CorrigeUnPixel(s);
 }

@@ -1,6 +1,8 @@
 // AbrirFic's opening: the snapshot, the folder, the panels drawn.
 #include "core/PuzzGbl.h"
+#include "core/Redondeo.h"
 #include "core/Rejilla.h"
+#include "core/Sesion.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/ServiciosDialogo.h"
 #include "panels/Paneles.h"
@@ -18,8 +20,9 @@ constexpr int16_t ERROR_RUTA = 76;
 } // namespace
 
 void FormAbrirFic::Form_Load() {
-    Left = (AnchoPantalla - Formulario.Ancho()) / 2;
-    Top = (AltoPantalla - Formulario.Alto()) / 2;
+    // Centred; a half pixel goes to the even side.
+    Left = Redondea((AnchoPantalla - Formulario.Ancho()) / 2.0);
+    Top = Redondea((AltoPantalla - Formulario.Alto()) / 2.0);
     Formulario.Caja(0, 0, 639, 479, GRIS_OSCURO);
     Formulario.Line(0, 0, 639, 0, COLOR_BLANCO);
     Formulario.Line(0, 0, 0, 479, COLOR_BLANCO);
@@ -86,9 +89,11 @@ void FormAbrirFic::TomaCopia() {
 }
 
 // A drive or folder that fails changes nothing and the opening goes on; a
+// drive that is not there gives way to the working folder's volume, and a
 // folder that is gone falls back on the working folder.
 void FormAbrirFic::AbreCarpetaInicial() {
-    Drive1.PonDrive(UnidadImagen);
+    Drive1.PonDrive(UnidadPresente(UnidadImagen) ? UnidadImagen
+                                                 : UnidadDeCarpeta(DirectorioTrabajo));
     if (Dir1.PonPath(CarpetaImagen) == ERROR_RUTA) {
         Dir1.PonPath(DirectorioTrabajo);
     }

@@ -9,9 +9,11 @@
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
 #include "core/Sesion.h"
+#include "core/TextoIni.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/GuardaBmp.h"
 #include "dialog/ServiciosDialogo.h"
+#include "dialog/TextosDialogo.h"
 #include "platform/raster/Raster.h"
 #include "services/Mensajes.h"
 #include "services/Sonidos.h"
@@ -37,32 +39,6 @@ std::string Une(const std::string &carpeta, const std::string &nombre) {
         ruta += '/';
     }
     return ruta + nombre;
-}
-
-// A number as a message writes it: a leading blank, no trailing one.
-std::string N(int32_t v) {
-    std::string texto(v < 0 ? "" : " ");
-    texto += std::to_string(v);
-    return texto;
-}
-
-std::string TextoNoValida(int32_t w, int32_t h) {
-    const std::string &nl = NuevaLinea;
-    return "La  imagen  que  acaba  de  seleccionar  (" + N(w) + " x" + N(h) + " pixels)" + nl +
-           "no puede ser utilizada en Teselari.  Aunque se le aplique el máximo   valor   del   "
-           "Zoom   no  entra  dentro  de  los  límites permitidos:" +
-           nl + nl + "               Entre 320 y 1.024 pixels de anchura." + nl +
-           "               Entre 240 y 768 pixels de altura." + nl + nl +
-           "Seleccione otra imagen que sirva de fondo para el puzzle.";
-}
-
-std::string TextoFueraDeLimites(int32_t w, int32_t h) {
-    const std::string &nl = NuevaLinea;
-    return "El   tamaño   de   la   imagen   que   acaba  de   seleccionar" + nl + "(" + N(w) +
-           " x" + N(h) + " pixels ) no está dentro de los límites permitidos:" + nl + nl +
-           "               Entre 320 y 1.024 pixels de anchura." + nl +
-           "               Entre 240 y 768 pixels de altura." + nl + nl +
-           "Se ha modificado el Zoom para adaptar la imagen a dichos límites.";
 }
 
 // The mount point the process's current folder stands on.
@@ -99,6 +75,13 @@ void FormAbrirFic::File1_Click() {
         ReproduceSonido(12);
     }
     const std::string nombre = File1.Text();
+    if (!CadenaEscribible(Une(Dir1.Path(), nombre))) {
+        // The saved game could not keep this path: the pick is not taken,
+        // and the picture and its names stay as they were.
+        ReproduceSonido(9);
+        MuestraMensaje(MensajeNombreNoEscribible());
+        return;
+    }
     Pic_Comprobar.QuitaImagen();
     Pic_Comprobar.CambiaTamano(320, 240);
     Pic_Comprobar.QuitaImagen();
@@ -108,6 +91,9 @@ void FormAbrirFic::File1_Click() {
     FicheroEvaluado = true;
     const int32_t w = MedidaDeclarada(carga.Ancho), h = MedidaDeclarada(carga.Alto);
     const bool desmesurada = carga.Estado == EstadoCarga::Desmesurada;
+    // A picture not decoded is rebuilt from what stands: the blank.
+    AnchoComprobar = desmesurada ? Pic_Comprobar.Ancho() : w;
+    AltoComprobar = desmesurada ? Pic_Comprobar.Alto() : h;
     const float r = static_cast<float>(w) / static_cast<float>(h);
     VistaPrevia();
     FormasPermitidas(r);
@@ -122,13 +108,13 @@ void FormAbrirFic::File1_Click() {
         if (Zoom < 5 || Zoom > 995 || desmesurada) {
             Pic_DatosBmp.Cls();
             ReproduceSonido(9);
-            MuestraMensaje("Imagen no válida", TextoNoValida(w, h), 9, 1);
+            MuestraMensaje(MensajeImagenNoValida(w, h));
             ImagenValida = FALSO;
             return;
         }
         if (Zoom != 100) {
             ImprimeZoom();
-            MuestraMensaje("Imagen fuera de límites", TextoFueraDeLimites(w, h), 8, 1);
+            MuestraMensaje(MensajeFueraDeLimites(w, h));
         }
         ImagenValida = VERDADERO;
     }
@@ -142,8 +128,7 @@ void FormAbrirFic::File1_Click() {
 // The preview keeps the proportions, in the top left corner, stretched up
 // as well as down.
 void FormAbrirFic::VistaPrevia() {
-    const int32_t w = Pic_Comprobar.Ancho(), h = Pic_Comprobar.Alto();
-    const float r = static_cast<float>(w) / static_cast<float>(h);
+    const float r = static_cast<float>(AnchoComprobar) / static_cast<float>(AltoComprobar);
     const float cuatroTercios = 4.0f / 3.0f;
     int32_t a = 240, b = 180;
     if (cuatroTercios > r) {
@@ -153,7 +138,8 @@ void FormAbrirFic::VistaPrevia() {
     }
     Pic_Modelo.Cls();
     SetStretchBltMode(Pic_Modelo, COLORONCOLOR);
-    StretchBlt(Pic_Modelo, 0, 0, a, b, Pic_Comprobar, 0, 0, w, h, SRCCOPY);
+    StretchBlt(Pic_Modelo, 0, 0, a, b, Pic_Comprobar, 0, 0, Pic_Comprobar.Ancho(),
+               Pic_Comprobar.Alto(), SRCCOPY);
 }
 
 // Pieces with knobs need a picture not too far from square; stars a little
@@ -202,8 +188,8 @@ void FormAbrirFic::AjustaZoom(int32_t w, int32_t h) {
 
 void FormAbrirFic::CargaEnPicOrigin() {
     Superficie &o = teselari.Pic_Origin;
-    const int32_t w = Int(static_cast<double>(Pic_Comprobar.Ancho()) * Zoom / 100.0);
-    const int32_t h = Int(static_cast<double>(Pic_Comprobar.Alto()) * Zoom / 100.0);
+    const int32_t w = Int(static_cast<double>(AnchoComprobar) * Zoom / 100.0);
+    const int32_t h = Int(static_cast<double>(AltoComprobar) * Zoom / 100.0);
     o.QuitaImagen();
     o.CambiaTamano(w, h);
     SetStretchBltMode(o, COLORONCOLOR);

@@ -7,6 +7,7 @@
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
 #include "dialog/FormAbrirFic.h"
+#include "dialog/TextosDialogo.h"
 #include "platform/raster/Raster.h"
 #include "services/Esperas.h"
 #include "services/Mensajes.h"
@@ -33,14 +34,6 @@ void PintaFlecha(Superficie &panel, const Superficie &tira, int16_t x, int16_t y
 int16_t Redondo5(int32_t v) {
     v -= v % 5;
     return static_cast<int16_t>(v < 0 ? 0 : v);
-}
-
-std::string TextoLimiteZoom() {
-    const std::string &nl = NuevaLinea;
-    return "Si se aplica este zoom a la imagen que ha seleccionado" + nl +
-           "se superan los límites permitidos:" + nl + nl +
-           "               Entre 320 y 1.024 pixels de anchura" + nl +
-           "               Entre 240 y 768 pixels de altura" + nl;
 }
 
 } // namespace
@@ -84,13 +77,13 @@ bool FormAbrirFic::LimiteZoom(bool subiendo) {
     const auto z = [](int32_t lado) {
         return static_cast<int64_t>(std::floor(static_cast<double>(Zoom) * lado / 100.0));
     };
-    const int64_t w = z(Pic_Comprobar.Ancho()), h = z(Pic_Comprobar.Alto());
+    const int64_t w = z(AnchoComprobar), h = z(AltoComprobar);
     const bool falla = subiendo ? (w > 1024 || h > 768) : (w < 320 || h < 240);
     if (!falla) {
         return true;
     }
     ReproduceSonido(9);
-    MuestraMensaje("Imagen fuera de límites", TextoLimiteZoom(), 6, 1);
+    MuestraMensaje(MensajeLimiteZoom());
     Zoom = static_cast<int16_t>(subiendo ? Zoom - 5 : Zoom + 5);
     ImprimeZoom();
     return false;

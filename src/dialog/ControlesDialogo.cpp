@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "core/Sesion.h"
 #include "dialog/ServiciosDialogo.h"
 #include "services/Sonidos.h"
 
@@ -81,7 +82,8 @@ void ListaUnidades::Inicia(const std::string &unidad) {
 }
 
 void ListaUnidades::PonDrive(const std::string &unidad) {
-    if (unidad.empty() || unidad == drive_) {
+    // A drive that is not there is neither listed nor taken.
+    if (unidad == drive_ || !UnidadPresente(unidad)) {
         return;
     }
     drive_ = unidad;

@@ -116,7 +116,8 @@ class ListaDialogo : public ControlDialogo {
 class ListaUnidades : public ListaDialogo {
   public:
     const std::string &Drive() const { return drive_; }
-    // A drive not in the list joins it.
+    // A mounted drive not in the list joins it; one that is not there is
+    // ignored.
     void PonDrive(const std::string &unidad);
     // Fills the list with the volumes the platform reports, the drive
     // given selected, without a change.

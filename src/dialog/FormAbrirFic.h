@@ -94,7 +94,10 @@ class FormAbrirFic {
     SuperficieDialogo Pic_SalirPicBotones;
 
     // --- hidden surfaces ---
-    SuperficieDialogo Pic_Comprobar; // the chosen file at its own size
+    SuperficieDialogo Pic_Comprobar; // the chosen file at its own size, or reduced
+    // The size the chosen file states, W and H of the size rules; Pic_Comprobar
+    // holds a very large picture reduced.
+    int32_t AnchoComprobar = 320, AltoComprobar = 240;
     SuperficieDialogo Pic_OriginMem; // Pic_Origin as it was at the opening
     SuperficieDialogo Pic_BmpVario;  // the strip of icons, arrows and keys, 318 x 24
 

@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <string>
 
+#include "services/Mensajes.h"
+
 // The most records the table holds. The book counts the places of a section
 // up to one beyond the last record in a 16-bit counter, so the table stops
 // one short of the counter's top. A file with more records keeps them all;
@@ -33,6 +35,9 @@ void AnadeHistorico();
 // The text of an error of the history file; `unidad` names the drive of
 // DirectorioTrabajo for error 68.
 std::string TextoErrorHis(int16_t numero, const std::string &unidad);
+// The message that tells it, with the lines its text takes in the message's
+// label (two at least for the missing file).
+Mensaje MensajeErrorHis(int16_t numero, const std::string &unidad);
 
 // The date and the time of day of a record: "dd/mm/yyyy" and "hh:mm:ss".
 struct FechaHora {

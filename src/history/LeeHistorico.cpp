@@ -65,9 +65,7 @@ struct Errores {
             !dichos.insert(numero).second) {
             return;
         }
-        const std::string texto = TextoErrorHis(numero, UnidadDeCarpeta(DirectorioTrabajo));
-        MuestraMensaje("Error leyendo el fichero histórico", texto,
-                       LineasDelMensaje(texto, numero == ERROR_FICHERO_NO_ENCONTRADO ? 2 : 1), 1);
+        MuestraMensaje(MensajeErrorHis(numero, UnidadDeCarpeta(DirectorioTrabajo)));
     }
 };
 
@@ -213,6 +211,12 @@ std::string TextoErrorHis(int16_t numero, const std::string &unidad) {
     default:
         return "HIS ERROR " + std::to_string(numero);
     }
+}
+
+Mensaje MensajeErrorHis(int16_t numero, const std::string &unidad) {
+    const std::string texto = TextoErrorHis(numero, unidad);
+    return {"Error leyendo el fichero histórico", texto,
+            LineasDelMensaje(texto, numero == ERROR_FICHERO_NO_ENCONTRADO ? 2 : 1), 1};
 }
 
 void LeeHistorico() {

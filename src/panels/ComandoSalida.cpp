@@ -13,7 +13,7 @@ void PreguntaSalida() {
     MarcaBoton(11, true);
     ParaCronometro();
     QuitaEspera();
-    MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2);
+    MuestraMensaje(MensajeSalida());
     if (RespuestaMensaje != VERDADERO) {
         // The game goes on, the clock from where it stood.
         ArrancaCronometro();
@@ -24,4 +24,8 @@ void PreguntaSalida() {
     if (Plataforma().Termina != nullptr) {
         Plataforma().Termina();
     }
+}
+
+Mensaje MensajeSalida() {
+    return {"SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2};
 }

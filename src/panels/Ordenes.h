@@ -3,6 +3,8 @@
 // everybody else goes through PulsaBoton, which ends the modes first.
 #pragma once
 
+#include "services/Mensajes.h"
+
 #include <cstdint>
 
 // BotonPulsado[boton] = pulsado, and the button drawn so on the
@@ -24,3 +26,5 @@ void MuestraTutor();          // 8
 void ConmutaResolver();       // 9
 void AbreHistorico();         // 10
 void PreguntaSalida();        // 11
+// The question of command 11.
+Mensaje MensajeSalida();

@@ -36,18 +36,30 @@ falla() {
 
 # A free display number, and the server on it.
 arranca_pantalla() {
-    local pantalla=99
-    while [[ -e /tmp/.X11-unix/X$pantalla || -e /tmp/.X$pantalla-lock ]]; do
+    local pantalla=99 intento
+    for intento in 1 2 3 4 5; do
+        while [[ -e /tmp/.X11-unix/X$pantalla || -e /tmp/.X$pantalla-lock ]]; do
+            pantalla=$((pantalla + 1))
+        done
+        export DISPLAY=:$pantalla
+        Xvfb "$DISPLAY" -screen 0 ${ANCHO}x${ALTO}x24 -nolisten tcp >/dev/null 2>&1 &
+        pid_x=$!
+        for _ in $(seq 50); do
+            # Another server that took the number first makes ours give up:
+            # only our own server counts.
+            kill -0 "$pid_x" 2>/dev/null || break
+            if xdotool getdisplaygeometry >/dev/null 2>&1; then
+                sleep 0.3
+                kill -0 "$pid_x" 2>/dev/null && return 0
+                break
+            fi
+            sleep 0.1
+        done
+        kill "$pid_x" 2>/dev/null && wait "$pid_x" 2>/dev/null
+        pid_x=""
         pantalla=$((pantalla + 1))
     done
-    export DISPLAY=:$pantalla
-    Xvfb "$DISPLAY" -screen 0 ${ANCHO}x${ALTO}x24 -nolisten tcp >/dev/null 2>&1 &
-    pid_x=$!
-    for _ in $(seq 50); do
-        xdotool getdisplaygeometry >/dev/null 2>&1 && break
-        sleep 0.1
-    done
-    xdotool getdisplaygeometry >/dev/null 2>&1 || falla "Xvfb did not start"
+    falla "Xvfb did not start"
 }
 
 # The program and the sample pictures into the temporary folder, which is
@@ -70,6 +82,23 @@ arranca_juego() {
     export QT_QPA_PLATFORM=xcb
     (cd "$carpeta" && exec ./teselari) >"$salida/teselari.log" 2>&1 &
     pid_juego=$!
+    pasa_careta
+}
+
+# The splash comes first, after the second of calibration: a key ends it as
+# a player would (after ESPERA_CARETA seconds, by default half of one), and
+# it must be gone at once.
+pasa_careta() {
+    espera_nombre '^careta$'
+    sleep "${ESPERA_CARETA:-0.5}"
+    import -window root "$salida/careta.png"
+    xdotool key space
+    local paso
+    for paso in $(seq 30); do
+        xdotool search --onlyvisible --name '^careta$' >/dev/null 2>&1 || return 0
+        sleep 0.1
+    done
+    falla "the splash did not end on a key"
 }
 
 # Waits up to 20 seconds for a visible window whose name matches; leaves its
@@ -93,8 +122,10 @@ espera_ventana() {
 
 # Presses command 11, "Salir de la aplicación", the last button of the
 # always-visible panel, answers its question with a key and waits for the
-# program to end by itself with status 0.
+# program to end by itself with status 0, leaving TESEL32.INI in its working
+# folder (by default the program's).
 sale_con_boton_11() {
+    local trabajo=${1:-$carpeta}
     xdotool mousemove $((ANCHO - 49)) 612 click 1
     sleep 1
     import -window root "$salida/salir.png"
@@ -108,5 +139,5 @@ sale_con_boton_11() {
     local estado=$?
     pid_juego=""
     [[ $estado -eq 0 ]] || falla "the game ended with status $estado"
-    [[ -s "$carpeta/TESEL32.INI" ]] || falla "no TESEL32.INI was written at the exit"
+    [[ -s "$trabajo/TESEL32.INI" ]] || falla "no TESEL32.INI was written at the exit"
 }

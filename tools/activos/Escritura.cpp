@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "CaretaArte.h"
 #include "Cronometro.h"
 #include "Cursores.h"
 #include "Iconos.h"
@@ -53,6 +54,7 @@ bool EscribeActivos(const QString &carpeta, bool conMuestras, std::ostream &info
         informe << (escrito ? "written " : "FAILED ") << f.fileName().toStdString() << '\n';
         bien = escrito && bien;
     }
+    bien = EscribeCaretaEIconos(raiz, informe) && bien;
     if (conMuestras) {
         for (const Muestra &m : ListaMuestras()) {
             const bool bmp = m.Nombre.endsWith(".BMP");

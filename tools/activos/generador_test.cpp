@@ -215,6 +215,7 @@ TEST(Sonidos, UnClipImparLlevaRellenoFueraDeLosDatos) {
 // --- a whole run ---
 
 TEST(Escritura, UnaPasadaDevuelveLosActivosGuardados) {
+    AseguraAplicacion();
     QTemporaryDir tmp;
     ASSERT_TRUE(tmp.isValid());
     std::ostringstream informe;

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QImage>
 #include <QScreen>
 #include <cstring>
+#include <memory>
 
 #include "core/PuzzGbl.h"
 #include "core/Sesion.h"
@@ -18,6 +20,7 @@
 #include "platform/qt/RotuladorQt.h"
 #include "platform/qt/VentanaAbrirFic.h"
 #include "platform/qt/VentanaAyuda.h"
+#include "platform/qt/VentanaCareta.h"
 #include "platform/qt/VentanaHistoric.h"
 #include "platform/qt/VentanaTeselari.h"
 #include "platform/raster/Region.h"
@@ -25,6 +28,13 @@
 #include "services/Esperas.h"
 #include "services/Plataforma.h"
 #include "services/Sonidos.h"
+
+#ifndef TESELARI_DATOS_INSTALADOS
+#define TESELARI_DATOS_INSTALADOS ""
+#endif
+#ifndef TESELARI_ID_ESCRITORIO
+#define TESELARI_ID_ESCRITORIO "es.teselari.Teselari"
+#endif
 
 using namespace PuzzGbl;
 
@@ -34,6 +44,8 @@ VentanaTeselari *ventana = nullptr;
 bool terminado = false;
 double vueltasFijas = 0.0;
 QString carpetaFija;
+bool conCareta = true;
+std::unique_ptr<VentanaCareta> careta;
 
 void Eventos() {
     QCoreApplication::processEvents();
@@ -81,6 +93,20 @@ void PonArranqueMedido(double vueltasPorSegundo, const QString &carpetaPrograma)
     carpetaFija = carpetaPrograma;
 }
 
+void PonIconoYEntradaEscritorio() {
+    QIcon icono;
+    for (int lado : {32, 48, 64, 128, 256}) {
+        icono.addFile(QStringLiteral(":/teselari/iconos/teselari-%1.png").arg(lado),
+                      QSize(lado, lado));
+    }
+    QApplication::setWindowIcon(icono);
+    QGuiApplication::setDesktopFileName(QStringLiteral(TESELARI_ID_ESCRITORIO));
+}
+
+void PonCaretaEnArranque(bool mostrar) {
+    conCareta = mostrar;
+}
+
 bool ProgramaTerminado() {
     return terminado;
 }
@@ -118,11 +144,19 @@ VentanaTeselari &Form_Load() {
     // are read.
     NuevaLinea = "\r\n";
     Velocidad = 50;
-    // The program's folder is the executable's, where the sample
-    // pictures stand; the working folder is that one when it can be written.
+    // The splash, modal: the load goes on once it has ended.
+    if (conCareta) {
+        careta = std::make_unique<VentanaCareta>();
+        MuestraCareta(*careta);
+    }
+    // The program's folder is where the sample pictures stand: the
+    // installed game's data folder, or in the build tree the executable's;
+    // the working folder is that one when it can be written.
     PonDirectorioPrograma(
-        (carpetaFija.isEmpty() ? QCoreApplication::applicationDirPath() : carpetaFija)
-            .toStdString());
+        carpetaFija.isEmpty()
+            ? CarpetaDelPrograma(QCoreApplication::applicationDirPath().toStdString(),
+                                 TESELARI_DATOS_INSTALADOS)
+            : carpetaFija.toStdString());
     DirectorioTrabajo = DirectorioPrograma();
     CompruebaSiCD();
     ModoResolver = FALSO;
@@ -160,6 +194,8 @@ VentanaTeselari &Form_Load() {
     // The clock counts from the time restored; Timer1 ticks from now on.
     ArrancaCronometro();
     ventana->Timer1.start();
+    // The splash unloaded.
+    careta.reset();
     // The default pointer again.
     teselari.MousePointer = PUNTERO_NORMAL;
     ventana->Sincroniza();

@@ -12,6 +12,10 @@ class VentanaTeselari;
 // help window.
 void InstalaServicios();
 
+// The game's icon on every window, and the name of its desktop entry, so
+// that the desktop shows the menu's icon and name for the running game.
+void PonIconoYEntradaEscritorio();
+
 // Form_Load of `teselari`: calibration, tables, working folder, the saved
 // game, the panels, the window shown, the clock started. Returns the window,
 // which lives for the whole run.
@@ -21,6 +25,10 @@ VentanaTeselari &Form_Load();
 // beforehand instead of the second of counting, and the program's folder
 // (empty: the executable's). A count of 0 brings the counting back.
 void PonArranqueMedido(double vueltasPorSegundo, const QString &carpetaPrograma);
+
+// Whether Form_Load shows the splash (by default it does). Tests of the
+// load that don't look at the splash leave it out.
+void PonCaretaEnArranque(bool mostrar);
 
 // A picture of the resources into a surface of the form, at its top left
 // corner and within the surface's size: the strip of button images into

@@ -10,7 +10,9 @@
 class QImage;
 class Superficie;
 
-// Loads the file into the surface at its own size. A file that is missing,
+// Loads the file into the surface at its own size, or reduced when it has
+// more pixels than are decoded whole (TamanoDecodificado); the result
+// states the file's own size either way. A file that is missing,
 // can't be decoded or is cut short leaves the surface a white 320 x 240;
 // so does one stating a size past use, which isn't decoded.
 CargaDeImagen CargaImagenQt(const std::string &fichero, Superficie &destino);

@@ -51,19 +51,19 @@ bool RegistrosEnteros(const QByteArray &datos) {
     return pos == total && tipo == EMR_EOF;
 }
 
-QImage DibujaSvg(const char *svg, size_t largo, int ancho, int alto) {
+QImage DibujaSvg(const char *svg, size_t largo, int ancho, int alto, QSize tamano) {
     QSvgRenderer dibujante(QByteArray(svg, static_cast<qsizetype>(largo)));
     if (!dibujante.isValid()) {
         return {};
     }
-    QImage imagen(ancho, alto, QImage::Format_RGB32);
+    QImage imagen(tamano, QImage::Format_RGB32);
     if (imagen.isNull()) {
         return {};
     }
     imagen.fill(Qt::white);
     dibujante.setViewBox(QRectF(0, 0, ancho, alto));
     QPainter pintor(&imagen);
-    dibujante.render(&pintor, QRectF(0, 0, ancho, alto));
+    dibujante.render(&pintor, QRectF(0, 0, tamano.width(), tamano.height()));
     return imagen;
 }
 
@@ -104,7 +104,9 @@ Decodificacion DecodificaEmf(const QByteArray &datos) {
         return {};
     }
     Decodificacion d;
-    d.Imagen = DibujaSvg(svg, largo, static_cast<int>(ancho), static_cast<int>(alto));
+    // Drawn straight at the size it is decoded at, over the whole view box.
+    const QSize tamano = TamanoDecodificado(ancho, alto);
+    d.Imagen = DibujaSvg(svg, largo, static_cast<int>(ancho), static_cast<int>(alto), tamano);
     if (!d.Imagen.isNull()) {
         d.Estado = EstadoCarga::Leida;
         d.Ancho = ancho;

@@ -8,9 +8,12 @@
 
 namespace {
 
-// QImageReader's own allocation limit, in MB: room for the largest picture
-// decoded, at four bytes a pixel, and its conversion.
-constexpr int LIMITE_LECTOR_MB = 2 * static_cast<int>(PIXELES_MAXIMOS * 4 >> 20);
+// QImageReader's own allocation limit, in MB: room for the largest bitmap
+// any zoom can use, 20499 x 15379 at four bytes a pixel, which the reader
+// decodes whole before it is reduced. (Its bytes are all in the file: a
+// bitmap stating more than its file holds is refused before.) A JPEG is
+// decoded at its reduced size and never comes near it.
+constexpr int LIMITE_LECTOR_MB = 1280;
 
 uint32_t Palabra(const QByteArray &b, int desde, int bytes) {
     uint32_t v = 0;
@@ -56,8 +59,11 @@ bool LeeImagen(QImageReader &lector, const QSize &tamano, bool conSaltos, QImage
 }
 
 // The size the reader finds in the header; then the picture, unless the
-// size is past use or the file is cut short.
-Decodificacion Lee(QImageReader &lector, bool truncado, bool conSaltos) {
+// size is past use or the file is cut short. A picture of more pixels than
+// are decoded whole comes out reduced: the reader decodes a JPEG straight
+// at that size (libjpeg's scaled decoding); a bitmap, which it can only
+// read whole, is reduced by the nearest pixel right after.
+Decodificacion Lee(QImageReader &lector, bool truncado, bool conSaltos, bool reduceAlLeer) {
     Decodificacion d;
     lector.setAutoTransform(false);
     const QSize tamano = lector.size();
@@ -70,11 +76,19 @@ Decodificacion Lee(QImageReader &lector, bool truncado, bool conSaltos) {
     if (truncado) {
         return d;
     }
+    const QSize reducido = TamanoDecodificado(tamano.width(), tamano.height());
+    const bool alLeer = reducido != tamano && reduceAlLeer;
+    if (alLeer) {
+        lector.setScaledSize(reducido);
+    }
     QImage imagen;
-    if (!LeeImagen(lector, tamano, conSaltos, imagen)) {
+    if (!LeeImagen(lector, alLeer ? reducido : tamano, conSaltos, imagen)) {
         return d;
     }
     CompletaPaleta(imagen);
+    if (imagen.size() != reducido) {
+        imagen = imagen.scaled(reducido, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    }
     d.Imagen = imagen.convertToFormat(QImage::Format_RGB32);
     if (!d.Imagen.isNull()) {
         d.Estado = EstadoCarga::Leida;
@@ -124,8 +138,13 @@ int64_t BytesNecesariosBmp(const CabeceraBmp &b) {
         const int64_t fila = ((b.ancho * b.bits + 31) / 32) * 4;
         return static_cast<int64_t>(b.inicio) + fila * b.alto;
     }
-    // Run-length and embedded data: the header gives the length, which a
-    // run-length bitmap can't lack.
+    // Run-length data: the header's length, when it gives one. Many writers
+    // leave it at 0; then the data must at least begin, and a file cut
+    // short is harmless, since runs are read into a picture cleared first.
+    if (b.compresion == 1 || b.compresion == 2) {
+        return static_cast<int64_t>(b.inicio) + (b.tamanoImagen == 0 ? 2 : b.tamanoImagen);
+    }
+    // Embedded data: the header gives the length, which it can't lack.
     return b.tamanoImagen == 0 ? -1 : static_cast<int64_t>(b.inicio) + b.tamanoImagen;
 }
 
@@ -178,7 +197,7 @@ Decodificacion DecodificaBmp(QIODevice &fichero, int64_t tamanoFichero) {
     const bool truncado = BmpTruncado(cabecera, tamanoFichero);
     QImageReader lector(&fichero, "bmp");
     lector.setAllocationLimit(LIMITE_LECTOR_MB);
-    return Lee(lector, truncado, b.compresion == 1 || b.compresion == 2);
+    return Lee(lector, truncado, b.compresion == 1 || b.compresion == 2, false);
 }
 
 Decodificacion DecodificaJpeg(const QByteArray &datos) {
@@ -187,5 +206,5 @@ Decodificacion DecodificaJpeg(const QByteArray &datos) {
     buffer.open(QIODevice::ReadOnly);
     QImageReader lector(&buffer, "jpeg");
     lector.setAllocationLimit(LIMITE_LECTOR_MB);
-    return Lee(lector, JpegTruncado(datos), false);
+    return Lee(lector, JpegTruncado(datos), false, true);
 }

@@ -105,10 +105,12 @@ Decodificacion DecodificaWmf(const QByteArray &datos) {
     if (TamanoDesmesurado(ancho, alto)) {
         return {EstadoCarga::Desmesurada, ancho, alto, {}};
     }
+    // A metafile is drawn straight at the size it is decoded at.
+    const QSize tamano = TamanoDecodificado(ancho, alto);
     wmf_gd_t *gd = WMF_GD_GetData(api.get());
     gd->type = wmf_gd_image;
-    gd->width = ancho;
-    gd->height = alto;
+    gd->width = static_cast<unsigned int>(tamano.width());
+    gd->height = static_cast<unsigned int>(tamano.height());
     gd->bbox = caja;
     const wmf_error_t error = wmf_play(api.get(), 0, &caja);
     const std::unique_ptr<gdImage, LiberaGd> imagenGd(static_cast<gdImage *>(gd->gd_image));
@@ -117,7 +119,7 @@ Decodificacion DecodificaWmf(const QByteArray &datos) {
         return {};
     }
     Decodificacion d;
-    d.Imagen = CopiaGd(imagenGd.get(), ancho, alto);
+    d.Imagen = CopiaGd(imagenGd.get(), gd->width, gd->height);
     if (!d.Imagen.isNull()) {
         d.Estado = EstadoCarga::Leida;
         d.Ancho = ancho;

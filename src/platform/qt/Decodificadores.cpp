@@ -1,6 +1,9 @@
 // The kind of a picture file by its content, and the size past any use.
 #include "platform/qt/Decodificadores.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 // The smallest zoom the game allows, in percent, and the largest picture.
@@ -32,8 +35,19 @@ bool TamanoDesmesurado(int64_t ancho, int64_t alto) {
     if (ancho <= 0 || alto <= 0) {
         return false;
     }
-    return ancho * ZOOM_MINIMO / 100 > ANCHO_MAXIMO || alto * ZOOM_MINIMO / 100 > ALTO_MAXIMO ||
-           ancho > PIXELES_MAXIMOS / alto;
+    return ancho * ZOOM_MINIMO / 100 > ANCHO_MAXIMO || alto * ZOOM_MINIMO / 100 > ALTO_MAXIMO;
+}
+
+QSize TamanoDecodificado(int64_t ancho, int64_t alto) {
+    if (ancho > 0 && alto > 0 && ancho > PIXELES_MAXIMOS / alto) {
+        // A zoomed side is the integer part of side x zoom / 100, at most
+        // 1024 (768): the zoom's factor stays below 1025 / side (769 / side).
+        const double factor = std::min((ANCHO_MAXIMO + 1.0) / static_cast<double>(ancho),
+                                       (ALTO_MAXIMO + 1.0) / static_cast<double>(alto));
+        return {static_cast<int>(std::ceil(static_cast<double>(ancho) * factor)),
+                static_cast<int>(std::ceil(static_cast<double>(alto) * factor))};
+    }
+    return {static_cast<int>(ancho), static_cast<int>(alto)};
 }
 
 ClaseImagen ClaseDeContenido(const QByteArray &c) {

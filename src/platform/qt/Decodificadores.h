@@ -6,13 +6,15 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QSize>
 #include <QString>
 #include <cstdint>
 
 #include "core/Sesion.h"
 
 // What a decoder made of a file. Imagen is Format_RGB32 when Estado is
-// Leida; Ancho and Alto are the size the file states when it is
+// Leida; Ancho and Alto are the size the file states, also when the picture
+// was decoded at a reduced size (see TamanoDecodificado) and when it is
 // Desmesurada.
 struct Decodificacion {
     EstadoCarga Estado = EstadoCarga::EnBlanco;
@@ -21,13 +23,21 @@ struct Decodificacion {
     QImage Imagen;
 };
 
-// Largest number of pixels decoded: 64 M, 256 MB at four bytes a pixel.
+// Largest number of pixels decoded at the picture's own size: 64 M, 256 MB
+// at four bytes a pixel.
 constexpr int64_t PIXELES_MAXIMOS = int64_t{64} << 20;
 
 // Whether a stated size is past any use: even at the smallest zoom, 5 %, it
-// stays wider than 1024 or taller than 768, or it has more pixels than the
-// game decodes. A side of 0 or less is no size at all and is not Desmesurada.
+// stays wider than 1024 or taller than 768. A side of 0 or less is no size
+// at all and is not Desmesurada. Such a picture is never decoded.
 bool TamanoDesmesurado(int64_t ancho, int64_t alto);
+
+// The size a picture stating w x h is decoded at. Up to PIXELES_MAXIMOS
+// pixels, its own. A larger one is decoded straight at a reduced size, in
+// its proportions: the least that still covers the largest picture any zoom
+// makes of it (1024 x 768), so that the nearest-pixel stretch to the zoomed
+// size only ever drops pixels. A JPEG then never exists at its full size.
+QSize TamanoDecodificado(int64_t ancho, int64_t alto);
 
 // The kinds of picture file, told by their first bytes, never by the name.
 enum class ClaseImagen { Bmp, Jpeg, Wmf, Emf, Otra };

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
+#include <cmath>
 
 #include "core/PuzzGbl.h"
 #include "platform/qt/Cursores.h"
@@ -84,8 +85,10 @@ FormMensajes::FormMensajes(const std::string &titulo, const std::string &texto, 
     const int alto = 16 * lineas_ + 135;
     setFixedSize(ANCHO_FORM, alto);
     const QRect pantalla = QGuiApplication::primaryScreen()->geometry();
-    move(pantalla.x() + (pantalla.width() - ANCHO_FORM) / 2,
-         pantalla.y() + (pantalla.height() - alto) / 2);
+    // Centred; a half pixel goes to the even side, as every rounding does.
+    const auto centra = [](int libre) { return static_cast<int>(std::nearbyint(libre / 2.0)); };
+    move(pantalla.x() + centra(pantalla.width() - ANCHO_FORM),
+         pantalla.y() + centra(pantalla.height() - alto));
 
     Tex_Titulo = new QLabel(TextoDeMensaje(titulo), this);
     Tex_Titulo->setGeometry(20, 15, 365, 22);

@@ -1,29 +1,70 @@
 #include "platform/qt/RotuladorQt.h"
 
 #include <QColor>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 #include <cmath>
 
+namespace {
+
+// Where Debian's fonts-liberation puts the two weights the game uses.
+constexpr const char *FICHEROS_LETRA[] = {
+    "/usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf",
+    "/usr/share/fonts/truetype/liberation/LiberationSans-Bold.ttf"};
+
+QString RegistraFamilia() {
+    const QString familia = QStringLiteral("Liberation Sans");
+    if (!QFontDatabase::hasFamily(familia)) {
+        for (const char *fichero : FICHEROS_LETRA) {
+            QFontDatabase::addApplicationFont(QString::fromUtf8(fichero));
+        }
+    }
+    return familia;
+}
+
+} // namespace
+
+const QString &FamiliaDelJuego() {
+    static const QString familia = RegistraFamilia();
+    return familia;
+}
+
 int PixelesDePuntos(double puntos) {
+    if (puntos > 9.5 && puntos < 10.0) {
+        return 12; // the messages' 9.75 pt
+    }
     return std::max(1, static_cast<int>(std::lround(puntos * 96.0 / 72.0)));
 }
 
 QFont FuenteQt(const Fuente &f) {
-    QFont fuente(QStringLiteral("DejaVu Sans"));
+    QFont fuente(FamiliaDelJuego());
+    fuente.setStyleHint(QFont::SansSerif);
     fuente.setPixelSize(PixelesDePuntos(f.Tamano));
     fuente.setBold(f.Negrita);
     fuente.setStyleStrategy(QFont::NoAntialias);
     return fuente;
 }
 
+namespace {
+
+// Text on a surface is not smoothed; fully hinted, its glyphs keep even
+// gaps at small sizes.
+QFont FuenteDeSuperficie(const Fuente &f) {
+    QFont fuente = FuenteQt(f);
+    fuente.setHintingPreference(QFont::PreferFullHinting);
+    return fuente;
+}
+
+} // namespace
+
 double RotuladorQt::Ancho(const Fuente &f, const std::string &texto) {
-    return QFontMetricsF(FuenteQt(f)).horizontalAdvance(QString::fromStdString(texto));
+    return QFontMetricsF(FuenteDeSuperficie(f)).horizontalAdvance(QString::fromStdString(texto));
 }
 
 double RotuladorQt::Alto(const Fuente &f, const std::string &) {
-    return std::ceil(QFontMetricsF(FuenteQt(f)).height());
+    return std::ceil(QFontMetricsF(FuenteDeSuperficie(f)).height());
 }
 
 void RotuladorQt::Dibuja(Superficie &s, const Fuente &f, double x, double y, Color c,
@@ -41,7 +82,7 @@ void RotuladorQt::Dibuja(Superficie &s, const Fuente &f, double x, double y, Col
         }
         p.setClipRegion(zona);
     }
-    const QFont fuente = FuenteQt(f);
+    const QFont fuente = FuenteDeSuperficie(f);
     p.setFont(fuente);
     p.setPen(QColor::fromRgb(APixel(c)));
     p.drawText(QPointF(x, y + QFontMetricsF(fuente).ascent()), QString::fromStdString(texto));

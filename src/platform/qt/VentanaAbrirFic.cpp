@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
@@ -42,6 +43,20 @@ class MarcaRectangulo : public QWidget {
   private:
     const RectanguloDialogo &r_;
 };
+
+// The option buttons' mark stands close to its caption, as on the form the
+// dialog was drawn for: "Siempre visible" then fits its 92 pixels.
+class EstiloOpciones : public QProxyStyle {
+  public:
+    int pixelMetric(PixelMetric m, const QStyleOption *o, const QWidget *w) const override {
+        return m == PM_RadioButtonLabelSpacing ? 3 : QProxyStyle::pixelMetric(m, o, w);
+    }
+};
+
+QStyle *EstiloDeOpciones() {
+    static auto *estilo = new EstiloOpciones;
+    return estilo;
+}
 
 QColor ColorQt(Color c) {
     return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF);
@@ -210,6 +225,7 @@ void VentanaAbrirFic::Construye() {
         for (auto [opcion, nombre] : {std::pair{&f.Opt_Siempre[i], "Opt_Siempre"},
                                       std::pair{&f.Opt_Derecho[i], "Opt_Derecho"}}) {
             auto *w = new QRadioButton(PadreDe(opcion->Padre));
+            w->setStyle(EstiloDeOpciones());
             w->setAutoExclusive(false);
             w->setFocusPolicy(Qt::NoFocus);
             Registra(w, opcion, ConIndice(nombre, i));

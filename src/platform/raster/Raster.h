@@ -8,6 +8,8 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
+#include <vector>
 
 #include "platform/raster/Superficie.h"
 
@@ -49,6 +51,13 @@ int FloodFill(Superficie &s, int32_t x, int32_t y, Color limite);
 // area of the colour `color` that holds the seed with FillColor; a seed of
 // another colour paints nothing and returns 0.
 int ExtFloodFill(Superficie &s, int32_t x, int32_t y, Color color, uint32_t tipo);
+
+// Paints with FillColor every pixel of the colour `color` that no
+// 4-connected path through that colour joins to the surface's border or to
+// one of the points `abiertos`: the holes that closed outlines leave in an
+// area, but for the bays that the points keep. Returns how many it painted.
+int64_t RellenaEncerrados(Superficie &s, Color color,
+                          const std::vector<std::pair<int32_t, int32_t>> &abiertos = {});
 
 // Selects a copy of the region as the clip region of the surface, or none.
 int SelectClipRgn(Superficie &s, const Region *region);

@@ -84,3 +84,56 @@ int ExtFloodFill(Superficie &s, int32_t x, int32_t y, Color color, uint32_t tipo
     const uint32_t area = APixel(color) & COLOR_24;
     return Rellena(s, x, y, [area](uint32_t p) { return (p & COLOR_24) == area; });
 }
+
+int64_t RellenaEncerrados(Superficie &s, Color color,
+                          const std::vector<std::pair<int32_t, int32_t>> &abiertos) {
+    const int32_t ancho = s.Ancho(), alto = s.Alto();
+    const uint32_t area = APixel(color) & COLOR_24;
+    auto delArea = [&s, area](int32_t x, int32_t y) { return (s.Fila(y)[x] & COLOR_24) == area; };
+    // What the border reaches, 4-connected through the colour.
+    std::vector<uint8_t> fuera(static_cast<size_t>(ancho) * alto, 0);
+    std::vector<std::pair<int32_t, int32_t>> pendientes;
+    auto visita = [&](int32_t x, int32_t y) {
+        if (x < 0 || y < 0 || x >= ancho || y >= alto) {
+            return;
+        }
+        uint8_t &v = fuera[static_cast<size_t>(y) * ancho + x];
+        if (v == 0 && delArea(x, y)) {
+            v = 1;
+            pendientes.emplace_back(x, y);
+        }
+    };
+    for (int32_t x = 0; x < ancho; ++x) {
+        visita(x, 0);
+        visita(x, alto - 1);
+    }
+    for (int32_t y = 0; y < alto; ++y) {
+        visita(0, y);
+        visita(ancho - 1, y);
+    }
+    for (const auto &[x, y] : abiertos) {
+        visita(x, y);
+    }
+    while (!pendientes.empty()) {
+        const auto [x, y] = pendientes.back();
+        pendientes.pop_back();
+        visita(x - 1, y);
+        visita(x + 1, y);
+        visita(x, y - 1);
+        visita(x, y + 1);
+    }
+    const uint32_t relleno = APixel(s.FillColor);
+    int64_t pintados = 0;
+    for (int32_t y = 0; y < alto; ++y) {
+        for (int32_t x = 0; x < ancho; ++x) {
+            if (fuera[static_cast<size_t>(y) * ancho + x] == 0 && delArea(x, y)) {
+                trazos::PintaTramo(s, y, x, x + 1, relleno, false);
+                ++pintados;
+            }
+        }
+    }
+    if (pintados > 0) {
+        s.Cambiado(s.Limites());
+    }
+    return pintados;
+}

@@ -10,12 +10,15 @@ namespace {
 // The largest side a surface takes; larger sizes are cut to it.
 constexpr double LADO_MAXIMO = 1048576.0; // 2^20
 
+// Sizes and places are rounded to the nearest whole pixel, halves to even
+// (std::nearbyint in the default rounding mode): 320.5 gives 320.
+
 // A size rounded to the nearest whole pixel; negative or not a number is 0.
 int32_t TamanoRedondeado(double v) {
     if (!(v > 0)) {
         return 0;
     }
-    return static_cast<int32_t>(std::lround(std::min(v, LADO_MAXIMO)));
+    return static_cast<int32_t>(std::nearbyint(std::min(v, LADO_MAXIMO)));
 }
 
 // A place rounded to the nearest whole pixel; the old one when v is unusable.
@@ -23,7 +26,7 @@ int32_t PosicionRedondeada(double v, int32_t antes) {
     if (!std::isfinite(v) || std::fabs(v) > 2147483520.0) {
         return antes;
     }
-    return static_cast<int32_t>(std::lround(v));
+    return static_cast<int32_t>(std::nearbyint(v));
 }
 
 } // namespace

@@ -48,8 +48,8 @@ class Superficie {
     bool Visible = true;
     int32_t Ancho() const { return ancho_; }
     int32_t Alto() const { return alto_; }
-    // Places the surface; with a size, resizes it too. Fractional sizes are
-    // rounded to whole pixels. A resize keeps the pixels that stay inside
+    // Places the surface; with a size, resizes it too. Fractional places and
+    // sizes are rounded to whole pixels, halves to even. A resize keeps the pixels that stay inside
     // and gives the new ones the background colour.
     void Move(double left, double top);
     void Move(double left, double top, double ancho, double alto);

@@ -1,0 +1,218 @@
+// The splash: where its panel stands on any screen, how it ends (by a key,
+// or by itself after two passes at the pace of Velocidad), and what a frame
+// leaves in the viewport.
+#include <functional>
+
+#include "motor_comun.h"
+#include "platform/raster/Raster.h"
+#include "services/Careta.h"
+#include "services/Plataforma.h"
+#include "services/Reloj.h"
+
+using namespace PuzzGbl;
+
+namespace {
+
+// What runs at each yield of the splash (once a frame), with the frame's
+// number from 1; and a clock that advances one millisecond a reading.
+std::function<void(int32_t)> alCeder;
+int32_t fotogramas = 0;
+double hora = 0.0;
+
+void CedePrueba() {
+    ++fotogramas;
+    if (alCeder) {
+        alCeder(fotogramas);
+    }
+}
+
+double RelojPrueba() {
+    hora += 0.001;
+    return hora;
+}
+
+// A source whose every pixel tells its place and picture, with a black last
+// row (or not); Pic_Bmp's three bands each end in a black row.
+void PintaFuente(Superficie &s, uint32_t marca, bool filaNegra) {
+    for (int32_t y = 0; y < s.Alto(); ++y) {
+        for (int32_t x = 0; x < s.Ancho(); ++x) {
+            const bool ultima = y == s.Alto() - 1 || (s.Alto() == 87 && (y == 48 || y == 71));
+            const bool negra = filaNegra && ultima;
+            s.Fila(y)[x] = negra ? 0xFF000000u : 0xFF000000u | marca | (y << 8) | x;
+        }
+    }
+}
+
+class Careta : public Motor {
+  protected:
+    void SetUp() override {
+        fotogramas = 0;
+        alCeder = nullptr;
+        ServiciosPlataforma s;
+        s.Eventos = CedePrueba;
+        PonServiciosPlataforma(s);
+        Velocidad = 100;
+        PintaFuente(form.Pic_Logo, 0x100000, true);
+        PintaFuente(form.Pic_Icono, 0x200000, true);
+        PintaFuente(form.Pic_Bmp, 0x300000, true);
+        form.Form_Load(1024, 768);
+    }
+    void TearDown() override {
+        PonServiciosPlataforma({});
+        PonReloj(nullptr);
+        Motor::TearDown();
+    }
+    FormCareta form;
+};
+
+TEST_F(Careta, ElPanelQuedaCentradoEnCualquierPantalla) {
+    struct Caso {
+        int32_t ancho, alto, izquierda, arriba;
+    };
+    const Caso casos[] = {{800, 600, 238, 195}, {1024, 768, 350, 279}, {1920, 1080, 798, 435}};
+    for (const Caso &c : casos) {
+        FormCareta f;
+        f.Form_Load(c.ancho, c.alto);
+        EXPECT_EQ(f.Width, c.ancho);
+        EXPECT_EQ(f.Height, c.alto);
+        EXPECT_EQ(f.Pic_Todos.Left, c.izquierda) << c.ancho;
+        EXPECT_EQ(f.Pic_Todos.Top, c.arriba) << c.ancho;
+        // As much black on one side as on the other, to a pixel.
+        const int32_t derecha = c.ancho - f.Pic_Todos.Left - f.Pic_Todos.Ancho();
+        const int32_t abajo = c.alto - f.Pic_Todos.Top - f.Pic_Todos.Alto();
+        EXPECT_LE(std::abs(derecha - f.Pic_Todos.Left), 1);
+        EXPECT_LE(std::abs(abajo - f.Pic_Todos.Top), 1);
+        // The sources are out of sight, right of the screen.
+        for (const Superficie *s : {&f.Pic_Logo, &f.Pic_Icono, &f.Pic_Bmp}) {
+            EXPECT_GE(s->Left, c.ancho);
+        }
+    }
+}
+
+TEST_F(Careta, ElMarcoRodeaLaVentanaConSusLadosOscuros) {
+    const Superficie &t = form.Pic_Todos;
+    ASSERT_EQ(t.Ancho(), 323);
+    ASSERT_EQ(t.Alto(), 209);
+    const Superficie &v = form.Pic_Careta;
+    EXPECT_EQ(v.Left, 16);
+    EXPECT_EQ(v.Top, 30);
+    struct Punto {
+        int32_t x, y;
+        Color color;
+    };
+    // Outer border; Shape1 at (14, 28)-(305, 181) on the outer pixels, its
+    // top and left sides dark for 290 and 152 pixels; a black gap about the
+    // viewport; black elsewhere.
+    const Punto puntos[] = {
+        {0, 0, 0xC0C0C0},     {322, 208, 0xC0C0C0}, {161, 0, 0xC0C0C0},  {1, 1, 0},
+        {14, 28, 0x808080},   {303, 28, 0x808080},  {304, 28, 0xC0C0C0}, {305, 28, 0xC0C0C0},
+        {14, 179, 0x808080},  {14, 180, 0xC0C0C0},  {14, 181, 0xC0C0C0}, {305, 181, 0xC0C0C0},
+        {305, 100, 0xC0C0C0}, {160, 181, 0xC0C0C0}, {15, 29, 0},         {304, 180, 0},
+        {13, 27, 0},          {306, 182, 0},        {160, 100, 0},       {160, 15, 0},
+    };
+    for (const Punto &p : puntos) {
+        EXPECT_EQ(t.Point(p.x, p.y), p.color) << p.x << "," << p.y;
+    }
+}
+
+TEST_F(Careta, UnaTeclaEnElPrimerFotogramaLaTerminaAlMomento) {
+    alCeder = [this](int32_t) { form.Pic_Careta_KeyDown(32, 0); };
+    form.Form_Activate();
+    EXPECT_EQ(fotogramas, 1);
+    EXPECT_TRUE(form.Cerrada());
+    EXPECT_EQ(form.Pasadas, 1);
+    // The one frame stands: the block's top row just below the viewport,
+    // so nothing of it shows yet but the viewport was drawn once.
+    EXPECT_EQ(RectArriba, 149);
+}
+
+TEST_F(Careta, SolaTerminaTrasDosPasadasAlRitmoDeLaVelocidad) {
+    struct Caso {
+        int16_t velocidad;
+        double segundos; // by the clock, the whole splash
+    };
+    // Two passes of 351 frames; 0.035 s a frame at 50.
+    const Caso casos[] = {{100, 0.0}, {50, 702 * 0.035}};
+    for (const Caso &c : casos) {
+        FormCareta f;
+        f.Form_Load(800, 600);
+        fotogramas = 0;
+        hora = 1000.0;
+        PonReloj(RelojPrueba);
+        Velocidad = c.velocidad;
+        int32_t finPrimera = 0;
+        alCeder = [&f, &finPrimera](int32_t n) {
+            if (f.Pasadas == 1 && RectArriba == -200) {
+                finPrimera = n;
+            }
+        };
+        f.Form_Activate();
+        const double transcurrido = hora - 1000.0;
+        EXPECT_EQ(finPrimera, 351) << c.velocidad;
+        EXPECT_EQ(fotogramas, 702) << c.velocidad;
+        EXPECT_TRUE(f.Cerrada());
+        EXPECT_EQ(RectArriba, 150);
+        // Each frame's pause reads the clock a few times more than it waits.
+        EXPECT_NEAR(transcurrido, c.segundos, 0.01 * c.segundos + 702 * 0.003) << c.velocidad;
+    }
+}
+
+// After k frames the viewport holds exactly this frame's five copies on
+// black: every picture's black last row has wiped its trail.
+TEST_F(Careta, LasCincoCopiasDeUnFotogramaEnSuSitio) {
+    struct Copia {
+        const Superficie *fuente;
+        int32_t xs, ys, w, h, x, dy;
+    };
+    const Copia copias[] = {{&form.Pic_Logo, 0, 0, 97, 44, 27, 0},
+                            {&form.Pic_Icono, 0, 0, 34, 34, 214, 5},
+                            {&form.Pic_Bmp, 0, 0, 236, 49, 27, 80},
+                            {&form.Pic_Bmp, 0, 49, 238, 23, 26, 145},
+                            {&form.Pic_Bmp, 0, 72, 240, 15, 25, 186}};
+    for (int32_t k : {1, 40, 120, 200, 300}) {
+        FormCareta f;
+        PintaFuente(f.Pic_Logo, 0x100000, true);
+        PintaFuente(f.Pic_Icono, 0x200000, true);
+        PintaFuente(f.Pic_Bmp, 0x300000, true);
+        f.Form_Load(1024, 768);
+        fotogramas = 0;
+        alCeder = [&f, k](int32_t n) {
+            if (n == k) {
+                f.Pic_Careta_KeyDown(13, 0);
+            }
+        };
+        f.Form_Activate();
+        const int32_t y = 151 - k;
+        Superficie esperada(ANCHO_CARETA, ALTO_CARETA, COLOR_NEGRO);
+        for (const Copia &c : copias) {
+            for (int32_t j = 0; j < c.h; ++j) {
+                for (int32_t i = 0; i < c.w; ++i) {
+                    const Color p = c.fuente->Point(c.xs + i, c.ys + j);
+                    if (p != static_cast<Color>(-1)) {
+                        esperada.PSet(c.x + i, y + c.dy + j, p);
+                    }
+                }
+            }
+        }
+        EXPECT_EQ(f.Pic_Careta.Pixeles(), esperada.Pixeles()) << k;
+    }
+}
+
+// The viewport is never cleared: a picture without its black last row
+// leaves its last row smeared below it.
+TEST_F(Careta, SinFilaNegraElLogoDejaRastro) {
+    PintaFuente(form.Pic_Logo, 0x100000, false);
+    alCeder = [this](int32_t n) {
+        if (n == 60) {
+            form.Pic_Careta_KeyDown(13, 0);
+        }
+    };
+    form.Form_Activate();
+    // The logo's top at 91; its last row at 134 and, smeared, down to 149.
+    const Color ultima = form.Pic_Logo.Point(40, 43);
+    for (int32_t y : {134, 140, 149}) {
+        EXPECT_EQ(form.Pic_Careta.Point(27 + 40, y), ultima) << y;
+    }
+}
+
+} // namespace
