@@ -9,7 +9,9 @@ namespace {
 
 // The face of a hand at a size, from the font file itself.
 const QRawFont &Fuente(double pixeles, Mano mano) {
-    static QRawFont fuente;
+    // Never destroyed: a face outliving the application would be released
+    // after Qt's font cache at exit.
+    static QRawFont &fuente = *new QRawFont;
     static double tamano = 0;
     static Mano actual = Mano::Cancilleresca;
     if (tamano != pixeles || actual != mano) {
