@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Takes the README's screenshots of the real game in a window under Xvfb
 # (1024 x 768) into docs/: the splash, the customisation dialog of the first
-# start, the dealt board with its panel, and a puzzle just finished.
+# start, the dealt board with its panel, a puzzle just finished, and the
+# history book open on its date section.
 #
 # Each shot is one function below, run in the order of `CAPTURAS`; to add
-# one (the history book, say), write its function and name it in the list.
+# one, write its function and name it in the list.
 set -euo pipefail
 
 raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -39,11 +40,13 @@ captura() {
 }
 
 # The first start: the splash caught with its title in the middle, the
-# message of the missing saved game, the dialog with the third sample
+# messages of the missing history and saved game, the dialog with the third sample
 # chosen, the board dealt from it; then the exit.
 primer_arranque() {
     copia_programa
     arranca_juego_con_careta
+    espera_nombre '^Error leyendo el fichero histórico$'
+    xdotool key space
     espera_nombre '^Error leyendo fichero de datos iniciales$'
     xdotool key space
     espera_nombre '^Personalizar la aplicación$'
@@ -74,11 +77,12 @@ arranca_juego_con_careta() {
     echo "written docs/captura-careta.png"
 }
 
-# A saved game with one piece loose: the piece dragged home, and the
-# message of the finish over the clean picture.
+# A saved game with one piece loose and a history of five puzzles: the
+# piece dragged home, and the message of the finish over the clean picture.
+# The game goes on in the history book.
 puzzle_resuelto() {
     local puntos x y xc yc
-    puntos=$(build/release/teselari_partida_e2e "$carpeta" CATEDRAL.JPG "$ANCHO" "$ALTO") ||
+    puntos=$(build/release/teselari_partida_e2e "$carpeta" CATEDRAL.JPG "$ANCHO" "$ALTO" 5) ||
         falla "no saved game was written"
     read -r x y xc yc <<<"$puntos"
     arranca_juego
@@ -97,10 +101,26 @@ puzzle_resuelto() {
     captura resuelto "" 640
     xdotool key Return
     sleep 0.5
+}
+
+# Button 10 of the running game: the book, opened on its date section by
+# the tab, the puzzle just finished on its first spread; then the exit.
+libro_historico() {
+    local izquierda=$(((ANCHO - 541) / 2)) arriba=$(((ALTO - 344) / 2))
+    xdotool mousemove $((ANCHO - 49)) $((612 - 58)) click 1
+    espera_nombre '^Histórico de puzzles$'
+    sleep 0.5
+    xdotool mousemove $((izquierda + 524)) $((arriba + 63)) click 1
+    sleep 0.5
+    xdotool mousemove $((izquierda + 270)) $((arriba + 200))
+    sleep 0.3
+    captura libro "541x344+$izquierda+$arriba"
+    xdotool mousemove $((izquierda + 15)) $((arriba + 16)) click 1
+    sleep 0.5
     sale_con_boton_11
 }
 
-CAPTURAS=(primer_arranque puzzle_resuelto)
+CAPTURAS=(primer_arranque puzzle_resuelto libro_historico)
 
 arranca_pantalla
 for paso in "${CAPTURAS[@]}"; do

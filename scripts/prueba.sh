@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds Teselari twice, in Release and with AddressSanitizer and
 # UndefinedBehaviorSanitizer, and runs every test in both builds; then fuzzes
-# the saved-game reader for a short while when clang is installed.
+# the readers of the saved game and of the history file for a short while
+# when clang is installed.
 set -euo pipefail
 
 raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -41,11 +42,11 @@ ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     ctest --test-dir build/sanitizers --output-on-failure --no-tests=error -j2 ||
     fallos+=(sanitizers)
 
-# The saved-game reader under libFuzzer for 30 seconds, from the seed
-# corpus, when clang is there. Only a crash the fuzzer reports (or an
-# invariant broken, which aborts) counts as a failure; a missing compiler or
-# runtime only skips the step.
-echo "== Fuzzing the saved game (30 s)"
+# The readers of the saved game and of the history file under libFuzzer,
+# 20 seconds each, from their seed corpora, when clang is there. Only a crash
+# the fuzzer reports (or an invariant broken, which aborts) counts as a
+# failure; a missing compiler or runtime only skips the step.
+echo "== Fuzzing the saved game and the history file (20 s each)"
 # Whether this clang has the fuzzer's runtime at all: a one-line program.
 hay_libfuzzer() {
     command -v clang++ >/dev/null 2>&1 || return 1
@@ -59,26 +60,31 @@ hay_libfuzzer() {
     rm -rf "$prueba"
     return $estado
 }
+# fuzzea OBJETIVO SEMILLAS DICCIONARIO
+fuzzea() {
+    local corpus registro=build/fuzz/$1.log
+    corpus=$(mktemp -d)
+    if build/fuzz/"$1" -max_total_time=20 -artifact_prefix="$raiz/build/fuzz/" \
+        -dict="$raiz/tests/fuzz/$3" "$corpus" "$raiz/tests/fuzz/$2" >"$registro" 2>&1; then
+        grep -E '^Done ' "$registro" || true
+    else
+        tail -n 60 "$registro" >&2
+        echo "the fuzzer found a crash in $1: the input is in build/fuzz/, the log in $registro" >&2
+        fallos+=(fuzz)
+    fi
+    rm -rf "$corpus"
+}
 if ! hay_libfuzzer; then
     echo "no clang++ with libFuzzer: the fuzzing step is skipped"
 elif ! CXX=clang++ configura build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESELARI_FUZZ=ON \
     -DTESELARI_TESTS=OFF -DTESELARI_BENCH=OFF -DTESELARI_TOOLS=OFF -DTESELARI_QT=OFF ||
-    ! cmake --build build/fuzz -j2 --target teselari_fuzz_sesion; then
+    ! cmake --build build/fuzz -j2 --target teselari_fuzz_sesion teselari_fuzz_historico; then
     # With a working clang, a fuzz target that no longer builds is a fault.
-    echo "the fuzz target does not build" >&2
+    echo "a fuzz target does not build" >&2
     fallos+=(fuzz)
 else
-    corpus=$(mktemp -d)
-    registro=build/fuzz/fuzz.log
-    if build/fuzz/teselari_fuzz_sesion -max_total_time=30 -artifact_prefix="$raiz/build/fuzz/" \
-        -dict="$raiz/tests/fuzz/sesion.dict" "$corpus" "$raiz/tests/fuzz/semillas" >"$registro" 2>&1; then
-        grep -E '^Done ' "$registro" || true
-    else
-        tail -n 60 "$registro" >&2
-        echo "the fuzzer found a crash: the input is in build/fuzz/, the log in $registro" >&2
-        fallos+=(fuzz)
-    fi
-    rm -rf "$corpus"
+    fuzzea teselari_fuzz_sesion semillas sesion.dict
+    fuzzea teselari_fuzz_historico semillas_historico historico.dict
 fi
 
 if [[ ${#fallos[@]} -ne 0 ]]; then

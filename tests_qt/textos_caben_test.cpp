@@ -13,6 +13,7 @@
 #include "core/PuzzGbl.h"
 #include "core/TextosSesion.h"
 #include "dialog/TextosDialogo.h"
+#include "history/Historico.h"
 #include "panels/Ordenes.h"
 #include "platform/qt/FormMensajes.h"
 #include "platform/qt/RotuladorQt.h"
@@ -43,6 +44,7 @@ std::vector<Mensaje> TodosLosMensajes() {
     }
     for (int16_t numero : {7, 53, 68, 76, 32767}) {
         m.push_back(MensajeErrorIni(numero, "/media/jugador/DISCO EXTERNO DE FOTOGRAFÍAS"));
+        m.push_back(MensajeErrorHis(numero, "/media/jugador/DISCO EXTERNO DE FOTOGRAFÍAS"));
     }
     return m;
 }

@@ -83,6 +83,10 @@ const PartidaGuardada *PreparaPartidaGuardada() {
     Velocidad = 100;
     DirectorioTrabajo = plantilla;
     GuardaSesion();
+    // An empty history: a missing one would stop the load with its message.
+    if (std::FILE *his = std::fopen((std::string(plantilla) + "/TESEL32.HIS").c_str(), "wb")) {
+        std::fclose(his);
+    }
     p.carpeta = plantilla;
     p.piezas = Piezas;
     p.orden = OrdenPiezas;

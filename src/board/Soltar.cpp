@@ -7,6 +7,7 @@
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
+#include "history/Historico.h"
 #include "panels/Cronometro.h"
 #include "platform/raster/Raster.h"
 #include "services/Mensajes.h"
@@ -90,10 +91,15 @@ void TerminaPartida() {
     ParaCronometro();
     RestauraBitmap();
     MuestraMensaje(MensajePuzzleResuelto());
-    // The history book is not there yet: this is where the finished game is
-    // entered in it, when PartidaValida is set, after the message. A deal is
-    // entered once: PartidaValida is cleared with the entry, so finishing the
-    // same deal again (a piece lifted and dropped back) adds nothing.
+    // A fair game enters the history book once the message is acknowledged.
+    // A deal is entered once: PartidaValida is cleared with the entry, so
+    // finishing the same deal again (a piece lifted and dropped back, also
+    // after a restart, since the flag is saved) adds nothing, and the first
+    // page of the book then says that this game no longer goes in.
+    if (PartidaValida != FALSO) {
+        AnadeHistorico();
+        PartidaValida = FALSO;
+    }
 }
 
 } // namespace

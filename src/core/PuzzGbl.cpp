@@ -51,6 +51,9 @@ void RestauraPartida() {
     PuzzleCambiado = FALSO;
     Piezas.assign(1, Pieza{});
     OrdenPiezas.assign(1, 0);
+    Historico.assign(1, RegistroHistorico{});
+    NroRegistrosHistorico = 0;
+    LineasHistoricoPendientes.clear();
 }
 
 void RestauraModos() {

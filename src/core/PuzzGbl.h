@@ -28,6 +28,27 @@ struct Pieza {
     bool operator==(const Pieza &) const = default;
 };
 
+// One puzzle solved by hand, as the history book keeps it. The four strings
+// are fixed, blank padded or cut: Fecha 10, Hora 8, Imagen 12 and Nombre 9
+// characters.
+struct RegistroHistorico {
+    std::string Fecha;
+    std::string Hora;
+    std::string Imagen;
+    int16_t AnchoPuzzle = 0;
+    int16_t AltoPuzzle = 0;
+    int16_t PiezasPorLado = 0;
+    int16_t TipoPieza = 0;
+    int16_t NroPiezas = 0;
+    int16_t AnchoPieza = 0;
+    int16_t AltoPieza = 0;
+    float Dificultad = 0.0f;
+    int32_t Segundos = 0;
+    int16_t FactorPegado = 0;
+    std::string Nombre;
+    bool operator==(const RegistroHistorico &) const = default;
+};
+
 namespace PuzzGbl {
 
 // --- settings ---
@@ -86,6 +107,13 @@ inline int16_t MensajeLineas, MensajeBotones, RespuestaMensaje;
 // --- pieces ---
 inline std::vector<Pieza> Piezas;        // 1..NroPiezas
 inline std::vector<int16_t> OrdenPiezas; // 1..NroPiezas, element 1 on top
+
+// --- the history book: records at 1..NroRegistrosHistorico, oldest first ---
+inline std::vector<RegistroHistorico> Historico;
+inline int16_t NroRegistrosHistorico;
+// The lines of records that TESEL32.HIS could not take when they were
+// added (a full disk); the next record that is written takes them along.
+inline std::string LineasHistoricoPendientes;
 
 // --- working storage, valid within one operation ---
 inline Pieza PiezaTemporal;

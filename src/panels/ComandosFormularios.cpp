@@ -3,12 +3,10 @@
 // and starts again afterwards, whatever state it had.
 //
 // The help window isn't modal: the clock runs again as soon as it is up.
-// The book Historic is not part of the game yet: until it comes, its button
-// only goes down and up again, with the clock stopped and restarted, and
-// nothing else happens.
 #include "core/PuzzGbl.h"
 #include "cutting/Corte.h"
 #include "dialog/ServiciosDialogo.h"
+#include "history/ServiciosHistorico.h"
 #include "panels/Cronometro.h"
 #include "panels/Ordenes.h"
 #include "panels/Paneles.h"
@@ -45,8 +43,7 @@ void AbreHistorico() {
     MarcaBoton(10, true);
     PonEspera();
     ParaCronometro();
+    AbreLibroHistorico(); // its loading puts the default pointer back
     ArrancaCronometro();
     MarcaBoton(10, false);
-    // Historic puts the default pointer back when it closes.
-    QuitaEspera();
 }

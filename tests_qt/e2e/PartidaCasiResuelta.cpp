@@ -2,11 +2,13 @@
 // into a small square grid, every piece at home but the one on top of the
 // pile, which waits on the free board right of the puzzle.
 //
-//   teselari_partida_e2e CARPETA IMAGEN ANCHO_PANTALLA ALTO_PANTALLA
+//   teselari_partida_e2e CARPETA IMAGEN ANCHO_PANTALLA ALTO_PANTALLA [REGISTROS]
 //
-// Writes CARPETA/TESEL32.INI and prints one line "X Y XC YC": a point well
-// inside the loose piece where it lies, and the same point of it at home, in
-// the work area's pixels (the screen's, with the scroll bars at 0).
+// Writes CARPETA/TESEL32.INI and CARPETA/TESEL32.HIS, the latter with
+// REGISTROS solved puzzles of other days (none by default: an empty history,
+// so the start shows no message), and prints one line "X Y XC YC": a point
+// well inside the loose piece where it lies, and the same point of it at
+// home, in the work area's pixels (the screen's, with the scroll bars at 0).
 #include <QCoreApplication>
 #include <cstdio>
 #include <cstdlib>
@@ -17,6 +19,7 @@
 #include "core/Sesion.h"
 #include "core/SesionImagen.h"
 #include "cutting/Corte.h"
+#include "history/CamposHistorico.h"
 #include "platform/qt/CargaImagenQt.h"
 
 using namespace PuzzGbl;
@@ -47,14 +50,51 @@ void PonAjustes(const std::string &carpeta, const std::string &imagen) {
     PuzzleCompleto = FALSO;
     SegundosCronometro = 75;
     ImagenValida = VERDADERO;
+    NombreJugador = CadenaFija("Ana", 9);
+}
+
+// Puzzles solved on other days by other players, of other pictures.
+bool EscribeHistorico(const std::string &carpeta, int registros) {
+    static const char *const nombres[] = {"Pedro", "ana", "Lucía", "PEDRO"};
+    static const char *const imagenes[] = {"CASA.JPG", "FUENTE.JPG", "TRANVIA.JPG"};
+    std::string texto;
+    for (int i = 1; i <= registros; ++i) {
+        RegistroHistorico r;
+        char fecha[16], hora[16];
+        std::snprintf(fecha, sizeof fecha, "%02d/03/2025", i % 9 + 1);
+        std::snprintf(hora, sizeof hora, "%02d:15:%02d", 10 + i % 12, i % 10);
+        r.Fecha = fecha;
+        r.Hora = hora;
+        r.Imagen = CadenaFija(imagenes[i % 3], 12);
+        r.PiezasPorLado = static_cast<int16_t>(4 + i % 5);
+        r.TipoPieza = static_cast<int16_t>(i % 6);
+        r.NroPiezas =
+            static_cast<int16_t>(r.PiezasPorLado * r.PiezasPorLado * (r.TipoPieza > 1 ? 2 : 1));
+        r.AnchoPieza = static_cast<int16_t>(640 / r.PiezasPorLado);
+        r.AltoPieza = static_cast<int16_t>(480 / r.PiezasPorLado);
+        r.AnchoPuzzle = static_cast<int16_t>(r.AnchoPieza * r.PiezasPorLado);
+        r.AltoPuzzle = static_cast<int16_t>(r.AltoPieza * r.PiezasPorLado);
+        r.Dificultad = 20.0f + static_cast<float>(i * 7 % 60) + 0.125f;
+        r.Segundos = 300 + i * 97;
+        r.FactorPegado = static_cast<int16_t>(25 + 5 * (i % 6));
+        r.Nombre = CadenaFija(nombres[i % 4], 9);
+        texto += LineaHistorico(r);
+    }
+    std::FILE *f = std::fopen((carpeta + "/TESEL32.HIS").c_str(), "wb");
+    if (f == nullptr) {
+        return false;
+    }
+    const bool bien = std::fwrite(texto.data(), 1, texto.size(), f) == texto.size();
+    return std::fclose(f) == 0 && bien;
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
     QCoreApplication app(argc, argv);
-    if (argc != 5) {
-        std::fprintf(stderr, "uso: %s CARPETA IMAGEN ANCHO_PANTALLA ALTO_PANTALLA\n", argv[0]);
+    if (argc != 5 && argc != 6) {
+        std::fprintf(stderr, "uso: %s CARPETA IMAGEN ANCHO_PANTALLA ALTO_PANTALLA [REGISTROS]\n",
+                     argv[0]);
         return 2;
     }
     const std::string carpeta = argv[1];
@@ -90,6 +130,10 @@ int main(int argc, char **argv) {
 
     DirectorioTrabajo = carpeta;
     GuardaSesion();
+    if (!EscribeHistorico(carpeta, argc == 6 ? std::atoi(argv[5]) : 0)) {
+        std::fprintf(stderr, "no se puede escribir TESEL32.HIS\n");
+        return 1;
+    }
     // The middle of the piece's cell: opaque in every rectangular cut.
     const int32_t dx = AnchoPieza / 2, dy = AltoPieza / 2;
     std::printf("%d %d %d %d\n", suelta.X + dx, suelta.Y + dy, suelta.XCorrecta + dx,

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The game in a real window under Xvfb, started for the first time: it
 # starts in a folder of its own with the sample pictures, says that it found
-# no saved game, leads into the customisation dialog where a sample is
+# no history and no saved game, leads into the customisation dialog where a sample is
 # chosen and accepted, covers the whole screen with the dealt board and its
 # panels, and ends by its exit command, leaving the saved game behind.
 #
@@ -18,6 +18,11 @@ arranca_pantalla
 copia_programa
 arranca_juego
 
+# No history yet: its reader says so first, and a key closes the message.
+espera_nombre '^Error leyendo el fichero histórico$'
+sleep 0.5
+import -window root "$salida/mensaje_historico.png"
+xdotool key space
 # No saved game: the message says so, a key closes it, and the
 # customisation dialog leads to a picture.
 espera_nombre '^Error leyendo fichero de datos iniciales$'

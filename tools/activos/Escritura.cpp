@@ -7,6 +7,7 @@
 #include "Cronometro.h"
 #include "Cursores.h"
 #include "Iconos.h"
+#include "Libro.h"
 #include "Muestras.h"
 #include "Sonidos.h"
 #include "Varios.h"
@@ -28,6 +29,12 @@ bool EscribeActivos(const QString &carpeta, bool conMuestras, std::ostream &info
     bien = Guarda(GeneraTiraBotones(), raiz.filePath("botones.png"), "PNG", -1, informe) && bien;
     bien = Guarda(GeneraCronometro(), raiz.filePath("cronometro.png"), "PNG", -1, informe) && bien;
     bien = Guarda(GeneraTiraVarios(), raiz.filePath("varios.png"), "PNG", -1, informe) && bien;
+    bien = raiz.mkpath("libro") && bien;
+    bien =
+        Guarda(GeneraPaginaLibro(), raiz.filePath("libro/pagina.png"), "PNG", -1, informe) && bien;
+    bien =
+        Guarda(GeneraEtiquetasLibro(), raiz.filePath("libro/etiquetas.png"), "PNG", -1, informe) &&
+        bien;
     const struct {
         const char *nombre;
         QImage imagen;

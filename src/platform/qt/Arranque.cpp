@@ -21,6 +21,7 @@
 #include "platform/qt/VentanaAbrirFic.h"
 #include "platform/qt/VentanaAyuda.h"
 #include "platform/qt/VentanaCareta.h"
+#include "platform/qt/VentanaHistoric.h"
 #include "platform/qt/VentanaTeselari.h"
 #include "platform/raster/Region.h"
 #include "services/Ayuda.h"
@@ -171,6 +172,8 @@ VentanaTeselari &Form_Load() {
     BotonPulsado.fill(FALSO);
     CargaRecurso(RutaTiraBotones(), teselari.Pic_BmpBoton);
     CargaRecurso(RutaCaraCronometro(), teselari.Pic_Cronome);
+    // The history read, its book installed; its message has the strip now.
+    PreparaHistorico();
 
     ventana = new VentanaTeselari();
     ConectaManejadores(*ventana);
