@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 // The size of the picture every benchmark cuts.
 constexpr int32_t ANCHO_IMAGEN = 1024;

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "core/PuzzGbl.h"
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 // A deterministic colourful picture: gradients and a fine pattern, so that
 // any misplaced pixel changes what is read back.

@@ -10,7 +10,7 @@
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Azar.h"
 
 using namespace PuzzGbl;

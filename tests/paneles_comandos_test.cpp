@@ -7,7 +7,7 @@
 #include "paneles_comun.h"
 #include "panels/Cronometro.h"
 #include "panels/Ordenes.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "motor_comun.h"
-#include "platform/raster/Colores.h"
+#include "raster/Colores.h"
 
 constexpr Color SOMBRA_PRUEBA = RGB(0, 0, 0x80);
 constexpr Color GRIS_PANEL = 0xC0C0C0;

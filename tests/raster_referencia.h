@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 namespace referencia {
 

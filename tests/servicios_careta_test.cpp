@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "motor_comun.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Careta.h"
 #include "services/Plataforma.h"
 #include "services/Reloj.h"

@@ -4,7 +4,7 @@
 #include "board/Raton.h"
 #include "board/Render.h"
 #include "panels/Cronometro.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "tablero_comun.h"
 #include <sstream>
 

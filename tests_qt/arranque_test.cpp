@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/PuzzGbl.h"
-#include "platform/qt/Arranque.h"
+#include "qt/Arranque.h"
 
 using namespace PuzzGbl;
 

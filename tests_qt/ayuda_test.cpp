@@ -17,9 +17,9 @@
 #include <vector>
 
 #include "core/PuzzGbl.h"
-#include "platform/qt/VentanaAyuda.h"
-#include "platform/qt/VentanaTeselari.h"
-#include "platform/raster/Superficie.h"
+#include "qt/VentanaAyuda.h"
+#include "qt/VentanaTeselari.h"
+#include "raster/Superficie.h"
 #include "services/Ayuda.h"
 
 using namespace PuzzGbl;

@@ -9,8 +9,8 @@
 #include <gtest/gtest.h>
 
 #include "core/PuzzGbl.h"
-#include "platform/qt/VentanaCareta.h"
-#include "platform/qt/VistaSuperficie.h"
+#include "qt/VentanaCareta.h"
+#include "qt/VistaSuperficie.h"
 #include "services/Plataforma.h"
 
 using namespace PuzzGbl;

@@ -13,9 +13,9 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "platform/qt/CargaImagenQt.h"
-#include "platform/qt/Decodificadores.h"
-#include "platform/raster/Superficie.h"
+#include "qt/CargaImagenQt.h"
+#include "qt/Decodificadores.h"
+#include "raster/Superficie.h"
 
 namespace {
 

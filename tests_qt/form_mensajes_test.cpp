@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "core/PuzzGbl.h"
-#include "platform/qt/FormMensajes.h"
-#include "platform/qt/VistaSuperficie.h"
+#include "qt/FormMensajes.h"
+#include "qt/VistaSuperficie.h"
 #include "services/Mensajes.h"
 #include "services/Plataforma.h"
 #include "services/Sonidos.h"

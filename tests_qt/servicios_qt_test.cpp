@@ -5,11 +5,11 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "platform/qt/CargaImagenQt.h"
-#include "platform/qt/Cursores.h"
-#include "platform/qt/ReproductorSonidos.h"
-#include "platform/qt/RotuladorQt.h"
-#include "platform/raster/Superficie.h"
+#include "qt/CargaImagenQt.h"
+#include "qt/Cursores.h"
+#include "qt/ReproductorSonidos.h"
+#include "qt/RotuladorQt.h"
+#include "raster/Superficie.h"
 
 TEST(Cursores, PunterosPorNumero) {
     EXPECT_EQ(CursorDePuntero(0, "").shape(), Qt::ArrowCursor);

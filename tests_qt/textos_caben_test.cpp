@@ -15,8 +15,8 @@
 #include "dialog/TextosDialogo.h"
 #include "history/Historico.h"
 #include "panels/Ordenes.h"
-#include "platform/qt/FormMensajes.h"
-#include "platform/qt/RotuladorQt.h"
+#include "qt/FormMensajes.h"
+#include "qt/RotuladorQt.h"
 
 using namespace PuzzGbl;
 

@@ -9,9 +9,9 @@
 #include "core/PuzzGbl.h"
 #include "history/FormHistoric.h"
 #include "panels/Comandos.h"
-#include "platform/qt/Arranque.h"
-#include "platform/qt/VentanaHistoric.h"
-#include "platform/qt/VistaSuperficie.h"
+#include "qt/Arranque.h"
+#include "qt/VentanaHistoric.h"
+#include "qt/VistaSuperficie.h"
 #include "services/Plataforma.h"
 
 using namespace PuzzGbl;

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "core/PuzzGbl.h"
-#include "platform/qt/VentanaTeselari.h"
-#include "platform/qt/VistaSuperficie.h"
+#include "qt/VentanaTeselari.h"
+#include "qt/VistaSuperficie.h"
 
 using namespace PuzzGbl;
 

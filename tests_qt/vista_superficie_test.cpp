@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "platform/qt/VistaSuperficie.h"
+#include "qt/VistaSuperficie.h"
 
 namespace {
 

@@ -24,9 +24,9 @@
 #include "../Partida.h"
 #include "core/PuzzGbl.h"
 #include "core/Sesion.h"
-#include "platform/qt/Arranque.h"
-#include "platform/qt/VentanaTeselari.h"
-#include "platform/qt/VistaSuperficie.h"
+#include "qt/Arranque.h"
+#include "qt/VentanaTeselari.h"
+#include "qt/VistaSuperficie.h"
 
 namespace {
 

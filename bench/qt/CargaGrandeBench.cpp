@@ -15,8 +15,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/CargaImagenQt.h"
-#include "platform/raster/Superficie.h"
+#include "qt/CargaImagenQt.h"
+#include "raster/Superficie.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "../RegistrosBench.h"
 #include "core/PuzzGbl.h"
 #include "history/FormHistoric.h"
-#include "platform/qt/RotuladorQt.h"
-#include "platform/qt/VentanaHistoric.h"
+#include "qt/RotuladorQt.h"
+#include "qt/VentanaHistoric.h"
 
 namespace {
 

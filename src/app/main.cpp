@@ -1,7 +1,7 @@
 // Teselari: the game starts with the load of its main form.
 #include <QApplication>
 
-#include "platform/qt/Arranque.h"
+#include "qt/Arranque.h"
 
 int main(int argc, char *argv[]) {
     QApplication aplicacion(argc, argv);

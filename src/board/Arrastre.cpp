@@ -7,7 +7,7 @@
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

@@ -5,7 +5,7 @@
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
 #include "panels/Cronometro.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Azar.h"
 #include "services/Esperas.h"
 #include "services/Reloj.h"

@@ -3,7 +3,7 @@
 #include "board/Render.h"
 #include "core/PuzzGbl.h"
 #include "cutting/Corte.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

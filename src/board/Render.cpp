@@ -4,7 +4,7 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;

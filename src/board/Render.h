@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 // Draws the piece at position `posicion` of OrdenPiezas on `destino`
 // (Pic_Trabajo or Pic_Imagen). For masked pieces the caller has run

@@ -9,7 +9,7 @@
 #include "cutting/Corte.h"
 #include "history/Historico.h"
 #include "panels/Cronometro.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Mensajes.h"
 #include "services/Sonidos.h"
 

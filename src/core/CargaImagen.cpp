@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 namespace {
 CargadorImagen cargador = nullptr;

@@ -9,7 +9,7 @@
 #include <array>
 
 #include "core/Controles.h"
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 struct FormTeselari {
     FormTeselari();

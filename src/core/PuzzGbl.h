@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "core/FormTeselari.h"
-#include "platform/raster/Region.h"
+#include "raster/Region.h"
 
 constexpr int16_t VERDADERO = -1;
 constexpr int16_t FALSO = 0;

@@ -4,7 +4,7 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Sesion.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

@@ -2,7 +2,7 @@
 #include "core/PuzzGbl.h"
 #include "cutting/Angulos.h"
 #include "cutting/Corte.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

@@ -11,7 +11,7 @@
 #include "core/Redondeo.h"
 #include "cutting/Angulos.h"
 #include "cutting/Corte.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

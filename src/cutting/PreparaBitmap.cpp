@@ -6,7 +6,7 @@
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
 #include "cutting/Corte.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

@@ -2,7 +2,7 @@
 // panel or the right button's one.
 #include "core/PuzzGbl.h"
 #include "dialog/FormAbrirFic.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;

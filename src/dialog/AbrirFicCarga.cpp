@@ -6,7 +6,7 @@
 #include "dialog/FormAbrirFic.h"
 #include "dialog/ServiciosDialogo.h"
 #include "panels/Paneles.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;

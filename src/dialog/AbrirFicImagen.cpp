@@ -14,7 +14,7 @@
 #include "dialog/GuardaBmp.h"
 #include "dialog/ServiciosDialogo.h"
 #include "dialog/TextosDialogo.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Mensajes.h"
 #include "services/Sonidos.h"
 

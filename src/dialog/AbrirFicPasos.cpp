@@ -8,7 +8,7 @@
 #include "core/Rejilla.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/TextosDialogo.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Esperas.h"
 #include "services/Mensajes.h"
 #include "services/Plataforma.h"

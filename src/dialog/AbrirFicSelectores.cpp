@@ -9,7 +9,7 @@
 #include "dialog/FormAbrirFic.h"
 #include "dialog/Rejillas.h"
 #include "panels/Paneles.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Esperas.h"
 #include "services/Sonidos.h"
 

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 // What every control carries. Places are in pixels inside the parent.
 struct ControlDialogo {

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <vector>
 
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 namespace {
 

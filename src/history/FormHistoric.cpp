@@ -5,7 +5,7 @@
 #include "history/Formatos.h"
 #include "history/ServiciosHistorico.h"
 #include "panels/TiempoCronometro.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;

@@ -14,7 +14,7 @@
 #include <string>
 
 #include "history/ListaOrdenada.h"
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 // Tex_Nombre: a text box, as plain state.
 struct TextoNombre {

@@ -15,7 +15,7 @@
 #include "history/CamposHistorico.h"
 #include "history/Historico.h"
 #include "history/LectorCampos.h"
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 #include "services/Mensajes.h"
 
 using namespace PuzzGbl;

@@ -1,7 +1,7 @@
 #include "panels/ArrastrePanel.h"
 
 #include "core/PuzzGbl.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

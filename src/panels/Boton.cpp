@@ -6,7 +6,7 @@
 #include "core/PuzzGbl.h"
 #include "panels/Paneles.h"
 #include "panels/SemillasBotones.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 

@@ -5,7 +5,7 @@
 #include "cutting/Corte.h"
 #include "panels/Ordenes.h"
 #include "panels/Paneles.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Esperas.h"
 
 using namespace PuzzGbl;

@@ -1,7 +1,7 @@
 #include "services/Careta.h"
 
 #include "core/PuzzGbl.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 #include "services/Esperas.h"
 #include "services/Plataforma.h"
 

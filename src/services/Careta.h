@@ -16,7 +16,7 @@
 
 #include <cstdint>
 
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 class FormCareta {
   public:

@@ -1,7 +1,7 @@
 #include "services/Mensajes.h"
 
 #include "core/PuzzGbl.h"
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 #include "services/Plataforma.h"
 
 using namespace PuzzGbl;

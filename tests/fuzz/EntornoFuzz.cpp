@@ -8,7 +8,7 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Sesion.h"
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 namespace {
 

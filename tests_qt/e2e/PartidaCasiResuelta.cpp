@@ -20,7 +20,7 @@
 #include "core/SesionImagen.h"
 #include "cutting/Corte.h"
 #include "history/CamposHistorico.h"
-#include "platform/qt/CargaImagenQt.h"
+#include "qt/CargaImagenQt.h"
 
 using namespace PuzzGbl;
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/raster/Superficie.h"
+#include "raster/Superficie.h"
 
 // The pixels of a surface as a picture of its own (a deep copy). A surface of
 // no pixels gives a null picture.

@@ -9,7 +9,7 @@
 #include "board/Barajar.h"
 #include "core/PuzzGbl.h"
 #include "cutting/Corte.h"
-#include "platform/raster/Raster.h"
+#include "raster/Raster.h"
 
 using namespace PuzzGbl;
 
