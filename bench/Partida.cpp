@@ -3,6 +3,7 @@
 #include "board/Barajar.h"
 #include "core/PuzzGbl.h"
 #include "cutting/Corte.h"
+#include "session/Enlaces.h"
 
 namespace {
 
@@ -46,6 +47,7 @@ void ImagenGenerada(Superficie &s) {
 void PreparaPartida(int16_t n, int16_t tipo, Reparto reparto) {
     using namespace PuzzGbl;
     RestauraValoresIniciales();
+    EnlazaArriba();
     AnchoPantalla = ANCHO_PANTALLA;
     AltoPantalla = ALTO_PANTALLA;
     PiezasPorLado = n;

@@ -26,6 +26,9 @@ configura() {
 # tested, and the exit status tells at the end. A failing build stops it.
 fallos=()
 
+echo "== Includes of src/ point down"
+bash scripts/comprueba-capas.sh || fallos+=(capas)
+
 echo "== Release build"
 configura build/release -DCMAKE_BUILD_TYPE=Release -DTESELARI_SANITIZE=OFF \
     -DTESELARI_TESTS=ON -DTESELARI_BENCH=ON -DTESELARI_TOOLS=ON

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "core/Cronometro.h"
 #include "cutting/Corte.h"
 #include "paneles_comun.h"
 #include "panels/Comandos.h"
-#include "panels/Cronometro.h"
 #include "panels/Paneles.h"
 #include "services/Ayuda.h"
 

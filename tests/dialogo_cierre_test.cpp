@@ -3,6 +3,7 @@
 // keep the dialog open, and command 2 around it.
 #include "dialogo_comun.h"
 #include "panels/Comandos.h"
+#include "session/Sesion.h"
 
 using namespace PuzzGbl;
 using sesion_prueba::mensajes;

@@ -2,11 +2,11 @@
 // the patches over them, the mouse, the name, and what it writes where.
 #include <cmath>
 
+#include "core/Cronometro.h"
 #include "historico_comun.h"
 #include "history/FormHistoric.h"
 #include "history/ServiciosHistorico.h"
 #include "panels/Comandos.h"
-#include "panels/Cronometro.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;

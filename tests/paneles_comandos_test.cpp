@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "board/Render.h"
+#include "core/Cronometro.h"
 #include "cutting/Corte.h"
 #include "paneles_comun.h"
-#include "panels/Cronometro.h"
 #include "panels/Ordenes.h"
 #include "raster/Raster.h"
 

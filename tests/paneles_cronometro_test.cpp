@@ -1,7 +1,7 @@
 // The chronometer panel: the time on its face, the tick, the keys, the
 // pointer and the drag.
+#include "core/Cronometro.h"
 #include "paneles_comun.h"
-#include "panels/Cronometro.h"
 #include "panels/PanelCronometro.h"
 #include "panels/TiempoCronometro.h"
 #include "services/Plataforma.h"

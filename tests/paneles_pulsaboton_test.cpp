@@ -8,11 +8,11 @@
 #include <string>
 
 #include "board/Render.h"
+#include "core/Cronometro.h"
 #include "cutting/Corte.h"
 #include "paneles_comun.h"
 #include "panels/BotonesRaton.h"
 #include "panels/Comandos.h"
-#include "panels/Cronometro.h"
 #include "panels/Paneles.h"
 #include "services/Plataforma.h"
 

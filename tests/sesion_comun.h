@@ -13,11 +13,12 @@
 #include <string>
 #include <vector>
 
-#include "core/Sesion.h"
+#include "core/Programa.h"
 #include "core/TextoIni.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
 #include "services/Plataforma.h"
+#include "session/Sesion.h"
 
 namespace sesion_prueba {
 

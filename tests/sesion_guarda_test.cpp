@@ -1,8 +1,8 @@
 // Writing the saved game: its exact bytes, and a game that comes back whole.
 #include <filesystem>
 
-#include "core/SesionTexto.h"
 #include "sesion_comun.h"
+#include "session/SesionTexto.h"
 
 using namespace PuzzGbl;
 using namespace sesion_prueba;

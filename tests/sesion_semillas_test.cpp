@@ -3,8 +3,8 @@
 // the corpus stays a set of valid files as the format moves on.
 #include <algorithm>
 
-#include "core/SesionTexto.h"
 #include "sesion_comun.h"
+#include "session/SesionTexto.h"
 
 using namespace sesion_prueba;
 

@@ -5,8 +5,8 @@
 #include "board/Automaticos.h"
 #include "board/Raton.h"
 #include "board/Render.h"
+#include "core/Cronometro.h"
 #include "core/Redondeo.h"
-#include "panels/Cronometro.h"
 #include "tablero_comun.h"
 
 using namespace PuzzGbl;

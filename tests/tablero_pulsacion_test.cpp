@@ -5,8 +5,8 @@
 #include "board/Inspeccion.h"
 #include "board/Raton.h"
 #include "board/Render.h"
+#include "core/Cronometro.h"
 #include "panels/Comandos.h"
-#include "panels/Cronometro.h"
 #include "tablero_comun.h"
 
 using namespace PuzzGbl;

@@ -3,7 +3,7 @@
 #include "board/Arrastre.h"
 #include "board/Raton.h"
 #include "board/Render.h"
-#include "panels/Cronometro.h"
+#include "core/Cronometro.h"
 #include "raster/Raster.h"
 #include "tablero_comun.h"
 #include <sstream>

@@ -4,9 +4,12 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
+#include "session/Enlaces.h"
+
 int main(int argc, char *argv[]) {
     setenv("QT_QPA_PLATFORM", "offscreen:configfile=" TESELARI_PANTALLA_JSON, 1);
     QApplication aplicacion(argc, argv);
+    EnlazaArriba();
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

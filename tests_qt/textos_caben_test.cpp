@@ -11,12 +11,12 @@
 
 #include "board/Raton.h"
 #include "core/PuzzGbl.h"
-#include "core/TextosSesion.h"
 #include "dialog/TextosDialogo.h"
 #include "history/Historico.h"
 #include "panels/Ordenes.h"
 #include "qt/FormMensajes.h"
 #include "qt/RotuladorQt.h"
+#include "session/TextosSesion.h"
 
 using namespace PuzzGbl;
 

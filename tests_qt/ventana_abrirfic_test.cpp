@@ -16,8 +16,8 @@
 #include <unistd.h>
 #include <vector>
 
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/GuardaBmp.h"
 #include "qt/Arranque.h"

@@ -22,11 +22,12 @@
 #include <vector>
 
 #include "../Partida.h"
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
 #include "qt/Arranque.h"
 #include "qt/VentanaTeselari.h"
 #include "qt/VistaSuperficie.h"
+#include "session/Sesion.h"
 
 namespace {
 

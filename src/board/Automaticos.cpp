@@ -6,10 +6,10 @@
 #include "board/Arrastre.h"
 #include "board/Render.h"
 #include "board/Trayecto.h"
+#include "core/Arriba.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
-#include "panels/Paneles.h"
 #include "services/Plataforma.h"
 #include "services/Sonidos.h"
 
@@ -30,7 +30,7 @@ void DejaPiezaEnImagen() {
 // default pointer back.
 void SueltaBoton(int16_t boton) {
     BotonPulsado[boton] = FALSO;
-    DibuBot(boton, teselari.Pic_BotonSiempre[boton]);
+    Llama<int16_t, Superficie &>(Arriba().DibuBot, boton, teselari.Pic_BotonSiempre[boton]);
     teselari.Pic_Trabajo.MousePointer = PUNTERO_NORMAL;
 }
 

@@ -1,10 +1,10 @@
 #include "board/Barajar.h"
 
 #include "board/Render.h"
+#include "core/Cronometro.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
-#include "panels/Cronometro.h"
 #include "raster/Raster.h"
 #include "services/Azar.h"
 #include "services/Esperas.h"

@@ -6,12 +6,11 @@
 #include "board/Raton.h"
 #include "board/Render.h"
 #include "board/Seleccion.h"
+#include "core/Arriba.h"
+#include "core/Cronometro.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
-#include "panels/Comandos.h"
-#include "panels/Cronometro.h"
-#include "panels/Paneles.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;
@@ -23,7 +22,7 @@ using namespace PuzzGbl;
 void Pic_Trabajo_MouseDown(int16_t boton, int16_t, float x, float y) {
     if (boton != 1 || ModoResolver != 0 || ModoOrdenar != 0) {
         if (boton == 2) {
-            DibujaBotonesDerecho(x, y);
+            Llama(Arriba().DibujaBotonesDerecho, x, y);
         }
         return;
     }
@@ -31,7 +30,7 @@ void Pic_Trabajo_MouseDown(int16_t boton, int16_t, float x, float y) {
         return;
     }
     if (ModoColocadas != 0) {
-        PulsaBoton(6); // ends the coloured view
+        Llama(Arriba().PulsaBoton, int16_t{6}); // ends the coloured view
     }
     if (PuzzleCompleto != 0) {
         PuzzleCompleto = FALSO;

@@ -4,11 +4,11 @@
 
 #include "board/Raton.h"
 #include "board/Render.h"
+#include "core/Arriba.h"
+#include "core/Cronometro.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
-#include "history/Historico.h"
-#include "panels/Cronometro.h"
 #include "raster/Raster.h"
 #include "services/Mensajes.h"
 #include "services/Sonidos.h"
@@ -97,7 +97,7 @@ void TerminaPartida() {
     // after a restart, since the flag is saved) adds nothing, and the first
     // page of the book then says that this game no longer goes in.
     if (PartidaValida != FALSO) {
-        AnadeHistorico();
+        Llama(Arriba().AnadeHistorico);
         PartidaValida = FALSO;
     }
 }

@@ -1,5 +1,5 @@
 // The picture loader the platform installs.
-#include "core/Sesion.h"
+#include "core/Programa.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "core/FormTeselari.h"
 
-#include "board/Desplazamiento.h"
+#include "core/Arriba.h"
 
 namespace {
 
@@ -53,8 +53,8 @@ void FormTeselari::Inicializa() {
 
     BarraHor = BarraDesplazamiento();
     BarraVer = BarraDesplazamiento();
-    BarraHor.Change = BarraHor_Change;
-    BarraVer.Change = BarraVer_Change;
+    BarraHor.Change = [] { Llama(Arriba().BarraHor_Change); };
+    BarraVer.Change = [] { Llama(Arriba().BarraVer_Change); };
 
     Configura(Pic_BotonesSiempre, 0xC0C0C0, COLOR_NEGRO);
     Pic_BotonesSiempre.Visible = true;

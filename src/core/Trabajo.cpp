@@ -9,8 +9,8 @@
 #include <fstream>
 #include <system_error>
 
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
 
 using namespace PuzzGbl;
 namespace fs = std::filesystem;

@@ -1,7 +1,7 @@
 // From the picture and the settings to a puzzle ready to be dealt.
 #include <algorithm>
 
-#include "board/Barajar.h"
+#include "core/Arriba.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
@@ -134,6 +134,6 @@ void PreparaBitmap() {
     OrdenPiezas.assign(static_cast<size_t>(NroPiezas) + 1, 0);
     if (SesionRestaurando == 0) {
         ColocaPiezasEnCasa();
-        Barajar();
+        Llama(Arriba().Barajar);
     }
 }

@@ -1,8 +1,8 @@
 // AbrirFic's opening: the snapshot, the folder, the panels drawn.
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
-#include "core/Sesion.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/ServiciosDialogo.h"
 #include "panels/Paneles.h"

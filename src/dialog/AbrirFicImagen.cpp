@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
-#include "core/Sesion.h"
 #include "core/TextoIni.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/GuardaBmp.h"

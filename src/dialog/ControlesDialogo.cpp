@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "core/Sesion.h"
+#include "core/Programa.h"
 #include "dialog/ServiciosDialogo.h"
 #include "services/Sonidos.h"
 

@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
 #include "dialog/ServiciosDialogo.h"
 #include "services/Sonidos.h"
 

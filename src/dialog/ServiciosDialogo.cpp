@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "core/Sesion.h"
+#include "core/Programa.h"
 #include "dialog/FormAbrirFic.h"
 
 namespace {

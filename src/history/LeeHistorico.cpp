@@ -10,8 +10,8 @@
 #include <set>
 
 #include "core/ErroresFichero.h"
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
 #include "history/CamposHistorico.h"
 #include "history/Historico.h"
 #include "history/LectorCampos.h"

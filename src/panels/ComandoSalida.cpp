@@ -1,7 +1,7 @@
 // Command 11: the question, then the game is kept and the program ends.
+#include "core/Arriba.h"
+#include "core/Cronometro.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
-#include "panels/Cronometro.h"
 #include "panels/Ordenes.h"
 #include "services/Mensajes.h"
 #include "services/Plataforma.h"
@@ -20,7 +20,7 @@ void PreguntaSalida() {
         MarcaBoton(11, false);
         return;
     }
-    GuardaSesion();
+    Llama(Arriba().GuardaSesion);
     if (Plataforma().Termina != nullptr) {
         Plataforma().Termina();
     }

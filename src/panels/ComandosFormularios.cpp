@@ -3,11 +3,10 @@
 // and starts again afterwards, whatever state it had.
 //
 // The help window isn't modal: the clock runs again as soon as it is up.
+#include "core/Arriba.h"
+#include "core/Cronometro.h"
 #include "core/PuzzGbl.h"
 #include "cutting/Corte.h"
-#include "dialog/ServiciosDialogo.h"
-#include "history/ServiciosHistorico.h"
-#include "panels/Cronometro.h"
 #include "panels/Ordenes.h"
 #include "panels/Paneles.h"
 #include "services/Ayuda.h"
@@ -29,7 +28,7 @@ void PersonalizaAplicacion() {
     MarcaBoton(2, true);
     ParaCronometro();
     PuzzleCambiado = FALSO;
-    AbreDialogoAbrirFic();
+    Llama(Arriba().AbreDialogoAbrirFic);
     if (PuzzleCambiado != FALSO) {
         PreparaBitmap();
     }
@@ -43,7 +42,7 @@ void AbreHistorico() {
     MarcaBoton(10, true);
     PonEspera();
     ParaCronometro();
-    AbreLibroHistorico(); // its loading puts the default pointer back
+    Llama(Arriba().AbreLibroHistorico); // its loading puts the default pointer back
     ArrancaCronometro();
     MarcaBoton(10, false);
 }

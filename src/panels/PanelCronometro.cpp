@@ -1,9 +1,9 @@
 #include "panels/PanelCronometro.h"
 
+#include "core/Cronometro.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "panels/ArrastrePanel.h"
-#include "panels/Cronometro.h"
 #include "panels/TiempoCronometro.h"
 #include "services/Sonidos.h"
 

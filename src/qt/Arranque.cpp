@@ -8,9 +8,9 @@
 #include <cstring>
 #include <memory>
 
+#include "core/Cronometro.h"
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
-#include "panels/Cronometro.h"
 #include "panels/Paneles.h"
 #include "qt/CargaImagenQt.h"
 #include "qt/Cursores.h"
@@ -28,6 +28,8 @@
 #include "services/Esperas.h"
 #include "services/Plataforma.h"
 #include "services/Sonidos.h"
+#include "session/Enlaces.h"
+#include "session/Sesion.h"
 
 #ifndef TESELARI_DATOS_INSTALADOS
 #define TESELARI_DATOS_INSTALADOS ""
@@ -112,6 +114,7 @@ bool ProgramaTerminado() {
 }
 
 void InstalaServicios() {
+    EnlazaArriba();
     static RotuladorQt rotulador;
     PonRotulador(&rotulador);
     static ReproductorSonidos *reproductor = new ReproductorSonidos(qApp);

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "core/Sesion.h"
+#include "core/Programa.h"
 
 class QImage;
 class Superficie;

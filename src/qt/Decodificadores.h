@@ -10,7 +10,7 @@
 #include <QString>
 #include <cstdint>
 
-#include "core/Sesion.h"
+#include "core/Programa.h"
 
 // What a decoder made of a file. Imagen is Format_RGB32 when Estado is
 // Leida; Ancho and Alto are the size the file states, also when the picture

@@ -6,9 +6,10 @@
 #include <fstream>
 #include <vector>
 
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
 #include "raster/Superficie.h"
+#include "session/Enlaces.h"
 
 namespace {
 
@@ -66,6 +67,7 @@ const std::string &PreparaEntorno() {
 void EstadoLimpio() {
     using namespace PuzzGbl;
     RestauraValoresIniciales();
+    EnlazaArriba();
     AnchoPantalla = 1024;
     AltoPantalla = 768;
     VueltasPorSegundo = 0;

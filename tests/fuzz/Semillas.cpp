@@ -5,10 +5,11 @@
 #include <string>
 
 #include "EntornoFuzz.h"
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
-#include "core/SesionImagen.h"
 #include "cutting/Corte.h"
+#include "session/Sesion.h"
+#include "session/SesionImagen.h"
 
 namespace {
 

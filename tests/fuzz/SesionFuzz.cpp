@@ -8,7 +8,7 @@
 
 #include "EntornoFuzz.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
+#include "session/Sesion.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t tamano) {
     EstadoLimpio();

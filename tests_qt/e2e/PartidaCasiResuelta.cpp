@@ -15,12 +15,13 @@
 #include <filesystem>
 #include <string>
 
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
-#include "core/SesionImagen.h"
 #include "cutting/Corte.h"
 #include "history/CamposHistorico.h"
 #include "qt/CargaImagenQt.h"
+#include "session/Sesion.h"
+#include "session/SesionImagen.h"
 
 using namespace PuzzGbl;
 

@@ -5,9 +5,9 @@
 
 #include "core/EscrituraSegura.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
-#include "core/SesionTexto.h"
 #include "core/TextoIni.h"
+#include "session/Sesion.h"
+#include "session/SesionTexto.h"
 
 using namespace PuzzGbl;
 

@@ -7,16 +7,17 @@
 
 #include "board/Barajar.h"
 #include "core/ErroresFichero.h"
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
-#include "core/SesionBloques.h"
-#include "core/SesionImagen.h"
 #include "core/TextoIni.h"
-#include "core/TextosSesion.h"
 #include "cutting/Corte.h"
 #include "panels/Comandos.h"
 #include "services/Mensajes.h"
 #include "services/Sonidos.h"
+#include "session/Sesion.h"
+#include "session/SesionBloques.h"
+#include "session/SesionImagen.h"
+#include "session/TextosSesion.h"
 
 using namespace PuzzGbl;
 

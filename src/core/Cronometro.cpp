@@ -1,4 +1,4 @@
-#include "panels/Cronometro.h"
+#include "core/Cronometro.h"
 
 #include "core/PuzzGbl.h"
 

@@ -1,4 +1,4 @@
-#include "core/TextosSesion.h"
+#include "session/TextosSesion.h"
 
 #include "core/ErroresFichero.h"
 

@@ -1,17 +1,11 @@
-// The game kept between runs (TESEL32.INI) and the working folder.
+// The program's folder and the working folder, the drives, and the loading
+// of picture files.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
 class Superficie;
-
-// Writes TESEL32.INI in DirectorioTrabajo: settings, buttons, the game.
-void GuardaSesion();
-
-// Reads TESEL32.INI and brings the game back exactly, or leads into the
-// customisation dialog when there is no usable file or picture.
-void RestauraSesion();
 
 // Chooses DirectorioTrabajo: the program's folder when it can be written,
 // else the user's data folder for the game, with the sample files copied.

@@ -1,9 +1,9 @@
-#include "core/SesionImagen.h"
+#include "session/SesionImagen.h"
 
 #include <cmath>
 
+#include "core/Programa.h"
 #include "core/PuzzGbl.h"
-#include "core/Sesion.h"
 #include "raster/Raster.h"
 
 using namespace PuzzGbl;

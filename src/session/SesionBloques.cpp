@@ -1,4 +1,4 @@
-#include "core/SesionBloques.h"
+#include "session/SesionBloques.h"
 
 #include <cstdint>
 #include <limits>

@@ -1,0 +1,6 @@
+#include "core/Arriba.h"
+
+LlamadasArriba &Arriba() {
+    static LlamadasArriba llamadas;
+    return llamadas;
+}
