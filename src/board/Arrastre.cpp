@@ -48,18 +48,17 @@ void RepintaVecinas() {
     }
 }
 
-// The rectangle around the piece's place in which a drop is attracted home.
-void CalculaAtraccion(const Pieza &q) {
+} // namespace
+
+void RectanguloAtraccion(int32_t x, int32_t y, Region &region) {
     const int32_t mx = Int(((100 - FactorPegado) / 2.0) * (AnchoPieza / 100.0));
     const int32_t my = Int(((100 - FactorPegado) / 2.0) * (AltoPieza / 100.0));
-    RectIzquierda = q.XCorrecta + mx;
-    RectArriba = q.YCorrecta + my;
-    RectDerecha = q.XCorrecta + AnchoPieza - mx;
-    RectAbajo = q.YCorrecta + AltoPieza - my;
-    SetRectRgn(RegionPieza, RectIzquierda, RectArriba, RectDerecha, RectAbajo);
+    RectIzquierda = x + mx;
+    RectArriba = y + my;
+    RectDerecha = x + AnchoPieza - mx;
+    RectAbajo = y + AltoPieza - my;
+    SetRectRgn(region, RectIzquierda, RectArriba, RectDerecha, RectAbajo);
 }
-
-} // namespace
 
 void LevantaPieza(int32_t x, int32_t y) {
     Superficie &imagen = teselari.Pic_Imagen;
@@ -80,7 +79,8 @@ void LevantaPieza(int32_t x, int32_t y) {
     if (TipoPieza != 0) {
         EnmascaraPieza(1);
     }
-    CalculaAtraccion(q);
+    // The rectangle around the piece's place in which a drop is attracted home.
+    RectanguloAtraccion(q.XCorrecta, q.YCorrecta, RegionPieza);
     PulsacionX = static_cast<int16_t>(x);
     PulsacionY = static_cast<int16_t>(y);
     PiezaLevantada = VERDADERO;

@@ -105,7 +105,7 @@ void OrdenarPiezas() {
         } else {
             PiezaPrioritaria(p); // position p now holds the next piece up
             LlevaPiezaA(anillo.tx, anillo.ty);
-            ReproduceSonido(10);
+            ReproduceSonido(Clips::PiezaFuera);
             DejaPiezaEnImagen();
             anillo.Avanza();
         }
@@ -130,7 +130,7 @@ void ResuelvePuzzle() {
         const Pieza q = Piezas[OrdenPiezas[1]];
         if (q.X != q.XCorrecta || q.Y != q.YCorrecta) {
             LlevaPiezaA(q.XCorrecta, q.YCorrecta);
-            ReproduceSonido(6);
+            ReproduceSonido(Clips::PiezaEnSuSitio);
             DejaPiezaEnImagen();
             ActualizaBSInfo();
             PartidaValida = FALSO;

@@ -40,7 +40,7 @@ void Pic_Trabajo_MouseDown(int16_t boton, int16_t, float x, float y) {
     if (i != 0) {
         PiezaPrioritaria(i);
         LevantaPieza(Redondea(x), Redondea(y));
-        ReproduceSonido(5);
+        ReproduceSonido(Clips::PiezaLevantada);
         teselari.Pic_Trabajo.MousePointer = PUNTERO_CUATRO_FLECHAS;
         CursorTrabajo = 0;
         ArrancaCronometro(); // also after the end of a game

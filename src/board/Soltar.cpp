@@ -2,6 +2,7 @@
 // view limits of a free piece and the end of the game.
 #include <cstdint>
 
+#include "board/Arrastre.h"
 #include "board/Raton.h"
 #include "board/Render.h"
 #include "core/Arriba.h"
@@ -16,18 +17,6 @@
 using namespace PuzzGbl;
 
 namespace {
-
-// The attraction rectangle around the spot where the piece was let go, the
-// cell shrunk on each side as for the rectangle of its place (LevantaPieza).
-void PreparaRegionSuelta(const Pieza &q) {
-    const int32_t mx = Int(((100 - FactorPegado) / 2.0) * (AnchoPieza / 100.0));
-    const int32_t my = Int(((100 - FactorPegado) / 2.0) * (AltoPieza / 100.0));
-    RectIzquierda = q.X + mx;
-    RectArriba = q.Y + my;
-    RectDerecha = q.X + AnchoPieza - mx;
-    RectAbajo = q.Y + AltoPieza - my;
-    SetRectRgn(RegionSuelta, RectIzquierda, RectArriba, RectDerecha, RectAbajo);
-}
 
 // A free piece is kept out from under the always-visible panel and keeps at
 // least half of its cell inside the view. Each limit works on what the one
@@ -60,7 +49,8 @@ void SueltaPieza() {
     FormTeselari &f = teselari;
     {
         Pieza &q = Piezas[OrdenPiezas[1]];
-        PreparaRegionSuelta(q);
+        // The attraction rectangle around the spot where the piece was let go.
+        RectanguloAtraccion(q.X, q.Y, RegionSuelta);
         if (CombineRgn(RegionRecorte, RegionPieza, RegionSuelta, RGN_AND) != NULLREGION) {
             // Wipes the piece from where it was let go; the jump is immediate.
             const int32_t bx = q.X - MargenX, by = q.Y - MargenY;
@@ -72,9 +62,9 @@ void SueltaPieza() {
     }
     // The sound may let events through: the piece is looked up again after it.
     if (PiezaEnSuSitio(OrdenPiezas[1])) {
-        ReproduceSonido(6);
+        ReproduceSonido(Clips::PiezaEnSuSitio);
     } else {
-        ReproduceSonido(10);
+        ReproduceSonido(Clips::PiezaFuera);
         LimitaALaVista(Piezas[OrdenPiezas[1]]);
     }
     // A command run during the sound may have used the mask surfaces.

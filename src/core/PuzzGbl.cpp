@@ -4,10 +4,7 @@
 
 using namespace PuzzGbl;
 
-namespace {
-
-// Settings, picture and course of the game as at the first run.
-void RestauraAjustes() {
+void PonAjustesPrimerArranque() {
     PiezasPorLado = 8;
     TipoPieza = 1;
     PiezasDobles = 0;
@@ -19,13 +16,20 @@ void RestauraAjustes() {
     Sonido = 1;
     Cronometro = 2;
     Pistas = 1;
+    BotonEnSiempre.fill(true);
+}
+
+namespace {
+
+// Settings, picture and course of the game as at the first run.
+void RestauraAjustes() {
+    PonAjustesPrimerArranque();
     FicheroImagen.assign(1, ' ');
     NombreImagen.clear();
     UnidadImagen.clear();
     CarpetaImagen.clear();
     ImagenValida = FALSO;
     DirectorioTrabajo.clear();
-    BotonEnSiempre.fill(true);
     BotonEnDerecho.fill(false);
 }
 

@@ -149,6 +149,11 @@ inline FormTeselari teselari;
 // at the first instant of the program, constant tables included.
 void RestauraValoresIniciales();
 
+// The settings of a first run: 8 x 8 irregular pieces, attraction 50, the
+// dark red background, the middle speed, zoom 100, sound, the chronometer
+// shown, tooltips, and every button in the always-visible panel.
+void PonAjustesPrimerArranque();
+
 // Fills the constant tables: NuevaLinea, ColoresFondo, TextoBotones,
 // TextoNroPiezas.
 void LlenaTablas();

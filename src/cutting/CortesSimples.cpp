@@ -54,26 +54,27 @@ void DibujaIrregulares(Superficie &s) {
     const Region puzzle(Rectangulo{0, 0, AnchoPuzzle, AltoPuzzle});
     SelectClipRgn(s, &puzzle);
     s.Caja(0, 0, AnchoPuzzle - 1, AltoPuzzle - 1);
-    for (int16_t fila = 1; fila < n; ++fila) {
-        double signo = fila % 2 == 0 ? 1 : -1;
-        AuxFila = fila;
-        for (int16_t col = 0; col < n; ++col) {
-            AuxColumna = col;
-            const double x = AnchoPieza * col, y = AltoPieza * fila;
-            JuntaHorizontal(s, x, y, signo);
-            JuntaHorizontal(s, x, y - 1, signo);
-            signo = -signo;
-        }
-    }
-    for (int16_t col = 1; col < n; ++col) {
-        double signo = col % 2 == 0 ? 1 : -1;
-        AuxColumna = col;
-        for (int16_t fila = 0; fila < n; ++fila) {
-            AuxFila = fila;
-            const double x = AnchoPieza * col, y = AltoPieza * fila;
-            JuntaVertical(s, x, y, signo);
-            JuntaVertical(s, x - 1, y, signo);
-            signo = -signo;
+    // The horizontal joints row by row, then the vertical ones column by
+    // column; along each line the knobs alternate, starting downwards
+    // (or rightwards) on the odd lines. Each joint is drawn twice, one pixel
+    // apart, for a cut line two pixels wide.
+    for (const bool horizontal : {true, false}) {
+        for (int16_t linea = 1; linea < n; ++linea) {
+            double signo = linea % 2 == 0 ? 1 : -1;
+            for (int16_t k = 0; k < n; ++k) {
+                const int16_t fila = horizontal ? linea : k, col = horizontal ? k : linea;
+                AuxFila = fila;
+                AuxColumna = col;
+                const double x = AnchoPieza * col, y = AltoPieza * fila;
+                if (horizontal) {
+                    JuntaHorizontal(s, x, y, signo);
+                    JuntaHorizontal(s, x, y - 1, signo);
+                } else {
+                    JuntaVertical(s, x, y, signo);
+                    JuntaVertical(s, x - 1, y, signo);
+                }
+                signo = -signo;
+            }
         }
     }
     SelectClipRgn(s, nullptr);

@@ -40,7 +40,7 @@ void FormAbrirFic::Bot_Botones_Click() {
 
 void FormAbrirFic::Pic_SalirPicBotones_Click() {
     teselari.MousePointer = PUNTERO_ESPERA;
-    ReproduceSonido(4);
+    ReproduceSonido(Clips::SalidaDialogo);
     for (int16_t i = 1; i <= 11; ++i) {
         BotonEnSiempre[i] = Opt_Siempre[i].Value;
         BotonEnDerecho[i] = Opt_Derecho[i].Value;

@@ -40,7 +40,7 @@ void FormAbrirFic::Pic_Si_MouseDown(int16_t, int16_t, float, float) {
     }
     FormTeselari &f = teselari;
     f.MousePointer = PUNTERO_ESPERA;
-    ReproduceSonido(4);
+    ReproduceSonido(Clips::SalidaDialogo);
     PuzzleCambiado = ColorFondo != CopiaColorFondo ? VERDADERO : FALSO;
     if (CambiaElPuzzle(*this)) {
         PuzzleCambiado = VERDADERO;
@@ -72,7 +72,7 @@ void FormAbrirFic::Pic_No_MouseDown(int16_t, int16_t, float, float) {
         return;
     }
     teselari.MousePointer = PUNTERO_ESPERA;
-    ReproduceSonido(4);
+    ReproduceSonido(Clips::SalidaDialogo);
     teselari.Pic_Origin.AsignaImagen(Pic_OriginMem);
     FicheroImagen = CopiaFicheroImagen;
     NombreImagen = CopiaNombreImagen;

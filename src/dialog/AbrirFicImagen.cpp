@@ -50,7 +50,7 @@ std::string UnidadActual() {
 } // namespace
 
 void FormAbrirFic::Drive1_Change() {
-    ReproduceSonido(12);
+    ReproduceSonido(Clips::Lista);
     std::error_code ec;
     if (UnidadActual() != Drive1.Drive() && ::chdir(Drive1.Drive().c_str()) != 0) {
         return; // a drive that is not ready changes nothing further
@@ -59,7 +59,7 @@ void FormAbrirFic::Drive1_Change() {
 }
 
 void FormAbrirFic::Dir1_Change() {
-    ReproduceSonido(12);
+    ReproduceSonido(Clips::Lista);
     if (::chdir(Dir1.Path().c_str()) != 0) {
         // The folder stays shown; the current folder is where it was.
     }
@@ -72,13 +72,13 @@ void FormAbrirFic::File1_Click() {
         return; // no file to evaluate
     }
     if (CargandoDialogo == FALSO) {
-        ReproduceSonido(12);
+        ReproduceSonido(Clips::Lista);
     }
     const std::string nombre = File1.Text();
     if (!CadenaEscribible(Une(Dir1.Path(), nombre))) {
         // The saved game could not keep this path: the pick is not taken,
         // and the picture and its names stay as they were.
-        ReproduceSonido(9);
+        ReproduceSonido(Clips::Rechazo);
         MuestraMensaje(MensajeNombreNoEscribible());
         return;
     }
@@ -107,7 +107,7 @@ void FormAbrirFic::File1_Click() {
         AjustaZoom(w, h);
         if (Zoom < 5 || Zoom > 995 || desmesurada) {
             Pic_DatosBmp.Cls();
-            ReproduceSonido(9);
+            ReproduceSonido(Clips::Rechazo);
             MuestraMensaje(MensajeImagenNoValida(w, h));
             ImagenValida = FALSO;
             return;

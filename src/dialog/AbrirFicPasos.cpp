@@ -82,7 +82,7 @@ bool FormAbrirFic::LimiteZoom(bool subiendo) {
     if (!falla) {
         return true;
     }
-    ReproduceSonido(9);
+    ReproduceSonido(Clips::Rechazo);
     MuestraMensaje(MensajeLimiteZoom());
     Zoom = static_cast<int16_t>(subiendo ? Zoom - 5 : Zoom + 5);
     ImprimeZoom();
@@ -109,7 +109,7 @@ void FormAbrirFic::PulsaPaso(SuperficieDialogo &panel, PasosPorcentaje &p, int16
         if (sube ? valor < tope : valor > suelo) {
             PintaFlecha(panel, Pic_BmpVario, fx, fy, sube ? SUBE_PULSADA : BAJA_PULSADA);
             Refresca();
-            ReproduceSonido(2);
+            ReproduceSonido(Clips::Paso);
             EsperaTiempo(22);
             valor = Redondo5(valor + (sube ? 5 : -5));
             (this->*imprime)();

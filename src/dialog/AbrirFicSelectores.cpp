@@ -59,7 +59,7 @@ void FormAbrirFic::CargaLisNroPiezas() {
 
 void FormAbrirFic::Lis_NroPiezas_Click() {
     if (CargandoDialogo == FALSO && RellenandoLista == FALSO) {
-        ReproduceSonido(12);
+        ReproduceSonido(Clips::Lista);
     }
     const std::string fila = Lis_NroPiezas.Text();
     const int lado = Redondea(std::atof(fila.substr(0, 2).c_str()));
@@ -74,7 +74,7 @@ void FormAbrirFic::Pic_TipPuz_Click(int16_t Index) {
         return;
     }
     if (Index != TipoPieza && Pic_TipPuz[Index].Enabled) {
-        ReproduceSonido(11);
+        ReproduceSonido(Clips::Tecla);
     }
     TipoPieza = Index;
     PiezasDobles = Index > 1 ? 1 : 0;
@@ -88,7 +88,7 @@ void FormAbrirFic::Pic_ColFon_Click(int16_t Index) {
         return;
     }
     if (Index != ColorFondo) {
-        ReproduceSonido(11);
+        ReproduceSonido(Clips::Tecla);
     }
     ColorFondo = Index;
     Rec_MarcaCol.Move(Pic_ColFon[Index].Left - 2, Pic_ColFon[Index].Top - 2);
@@ -152,7 +152,7 @@ void FormAbrirFic::DibujaSelector(const std::string &Titulo, int16_t Tipo, int16
 // the first, so two states run 1, 2, 1.
 void FormAbrirFic::HaPulsado(int16_t &Valor, int16_t Tipo, Superficie &Pic) {
     Valor = static_cast<int16_t>(Valor + 1);
-    ReproduceSonido(3);
+    ReproduceSonido(Clips::Selector);
     if (Valor < 0 || Valor > 3 || TextosSelector[Tipo][Valor] == std::string(12, ' ')) {
         Valor = 1;
     }

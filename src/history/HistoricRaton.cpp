@@ -41,20 +41,7 @@ bool EsquinaAdelante(double x, double y) {
 
 void FormHistoric::AbreSeccionPorPestana(int16_t seccion) {
     ContadorPagina = 0;
-    switch (seccion) {
-    case 1:
-        MuestraPorFecha();
-        break;
-    case 2:
-        MuestraPorNombre();
-        break;
-    case 3:
-        MuestraPorImagen();
-        break;
-    default:
-        MuestraPorDificultad();
-        break;
-    }
+    MuestraSeccion(seccion);
 }
 
 // Any button. The return arrow closes the book; a folded corner turns a
@@ -62,7 +49,7 @@ void FormHistoric::AbreSeccionPorPestana(int16_t seccion) {
 void FormHistoric::Form_MouseDown(int16_t, int16_t, float X, float Y) {
     if (EsquinaCierre(X, Y)) {
         descargado_ = true;
-        ReproduceSonido(4);
+        ReproduceSonido(Clips::SalidaDialogo);
         return;
     }
     const bool atras = EsquinaAtras(X, Y);
@@ -72,7 +59,7 @@ void FormHistoric::Form_MouseDown(int16_t, int16_t, float X, float Y) {
         return;
     }
     teselari.MousePointer = PUNTERO_ESPERA;
-    ReproduceSonido(7);
+    ReproduceSonido(Clips::Seccion);
     if (atras) {
         PaginaAnterior();
     } else if (adelante) {

@@ -17,7 +17,7 @@ void PulsaDesdePanel(int16_t indice, bool desde_derecho) {
         // The panel lay over the board.
         Pic_Trabajo_Paint();
     }
-    ReproduceSonido(1);
+    ReproduceSonido(Clips::Boton);
     PulsaBoton(indice);
 }
 

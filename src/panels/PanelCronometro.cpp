@@ -67,14 +67,14 @@ void Pic_Cronome_MouseDown(int16_t, int16_t, float x, float y) {
     // The click is heard only where the key acts, as the pointer said.
     if (EnTeclaArranque(x, y)) {
         if (CursorPanelNuevo == CURSOR_INDICE) {
-            ReproduceSonido(11);
+            ReproduceSonido(Clips::Tecla);
         }
         ArrancaCronometro();
         return;
     }
     if (EnTeclaParada(x, y)) {
         if (CursorPanelNuevo == CURSOR_INDICE) {
-            ReproduceSonido(11);
+            ReproduceSonido(Clips::Tecla);
         }
         ParaCronometro();
         return;

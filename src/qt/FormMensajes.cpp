@@ -207,7 +207,7 @@ void FormMensajes::keyPressEvent(QKeyEvent *evento) {
 void FormMensajes::Cierra(bool acepta, bool conSonido) {
     PonPunteroPantalla(PUNTERO_ESPERA);
     if (conSonido) {
-        ReproduceSonido(4);
+        ReproduceSonido(Clips::SalidaDialogo);
     }
     respuesta_ = acepta;
     done(acepta ? QDialog::Accepted : QDialog::Rejected);

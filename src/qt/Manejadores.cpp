@@ -26,6 +26,14 @@ VistaSuperficie::Manejador Llama(VentanaTeselari &v, ManejadorIndice m, int16_t 
     };
 }
 
+// The three mouse handlers of a control that is pressed, moved and released.
+void ConectaRaton(VentanaTeselari &v, VistaSuperficie &vista, Manejador pulsa, Manejador mueve,
+                  Manejador suelta) {
+    vista.AlPulsar = Llama(v, pulsa);
+    vista.AlMover = Llama(v, mueve);
+    vista.AlSoltar = Llama(v, suelta);
+}
+
 } // namespace
 
 void ConectaManejadores(VentanaTeselari &v) {
@@ -39,17 +47,12 @@ void ConectaManejadores(VentanaTeselari &v) {
     v.Pic_BotonesDerecho->AlMover = Llama(v, Pic_BotonesDerecho_MouseMove);
     v.Pic_BSInfo->AlMover = Llama(v, Pic_BSInfo_MouseMove);
 
-    v.Pic_Trabajo->AlPulsar = Llama(v, Pic_Trabajo_MouseDown);
-    v.Pic_Trabajo->AlMover = Llama(v, Pic_Trabajo_MouseMove);
-    v.Pic_Trabajo->AlSoltar = Llama(v, Pic_Trabajo_MouseUp);
-
-    v.Pic_Cronome->AlPulsar = Llama(v, Pic_Cronome_MouseDown);
-    v.Pic_Cronome->AlMover = Llama(v, Pic_Cronome_MouseMove);
-    v.Pic_Cronome->AlSoltar = Llama(v, Pic_Cronome_MouseUp);
-
-    v.Pic_Muestra->AlPulsar = Llama(v, Pic_Muestra_MouseDown);
-    v.Pic_Muestra->AlMover = Llama(v, Pic_Muestra_MouseMove);
-    v.Pic_Muestra->AlSoltar = Llama(v, Pic_Muestra_MouseUp);
+    ConectaRaton(v, *v.Pic_Trabajo, Pic_Trabajo_MouseDown, Pic_Trabajo_MouseMove,
+                 Pic_Trabajo_MouseUp);
+    ConectaRaton(v, *v.Pic_Cronome, Pic_Cronome_MouseDown, Pic_Cronome_MouseMove,
+                 Pic_Cronome_MouseUp);
+    ConectaRaton(v, *v.Pic_Muestra, Pic_Muestra_MouseDown, Pic_Muestra_MouseMove,
+                 Pic_Muestra_MouseUp);
 
     QObject::connect(&v.Timer1, &QTimer::timeout, &v, [&v] { v.Atiende(Timer1_Timer); });
 }

@@ -6,11 +6,38 @@
 // position: to the point of PSet and to the second corner of Line and boxes.
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 
 #include "raster/Superficie.h"
 #include "raster/Trazos.h"
 
 using trazos::Redondeado;
+
+namespace {
+
+// The two ends of a line, or two opposite corners of a box, rounded.
+struct Extremos {
+    int32_t ax, ay, bx, by;
+    int32_t Izquierda() const { return std::min(ax, bx); }
+    int32_t Derecha() const { return std::max(ax, bx); }
+    int32_t Arriba() const { return std::min(ay, by); }
+    int32_t Abajo() const { return std::max(ay, by); }
+};
+
+// The ends rounded, and the current position moved to the second; nothing
+// when a coordinate can't be a pixel's.
+std::optional<Extremos> Redondea(Superficie &s, double x1, double y1, double x2, double y2) {
+    const auto ax = Redondeado(x1), ay = Redondeado(y1);
+    const auto bx = Redondeado(x2), by = Redondeado(y2);
+    if (!ax || !ay || !bx || !by) {
+        return std::nullopt;
+    }
+    s.CurrentX = x2;
+    s.CurrentY = y2;
+    return Extremos{*ax, *ay, *bx, *by};
+}
+
+} // namespace
 
 void Superficie::PSet(double x, double y) {
     PSet(x, y, ForeColor);
@@ -46,14 +73,12 @@ void Superficie::Line(double x1, double y1, double x2, double y2) {
 // floor((2 i m + n) / 2n) pixels, m being the minor length. The closed form
 // lets the loop start and stop at the surface's edges.
 void Superficie::Line(double x1, double y1, double x2, double y2, Color c) {
-    const auto ax = Redondeado(x1), ay = Redondeado(y1);
-    const auto bx = Redondeado(x2), by = Redondeado(y2);
-    if (!ax || !ay || !bx || !by) {
+    const auto e = Redondea(*this, x1, y1, x2, y2);
+    if (!e) {
         return;
     }
-    CurrentX = x2;
-    CurrentY = y2;
-    const int64_t dx = int64_t{*bx} - *ax, dy = int64_t{*by} - *ay;
+    const int32_t ax = e->ax, ay = e->ay;
+    const int64_t dx = int64_t{e->bx} - ax, dy = int64_t{e->by} - ay;
     const int64_t sx = dx < 0 ? -1 : 1, sy = dy < 0 ? -1 : 1;
     const bool x_mayor = std::llabs(dx) >= std::llabs(dy);
     const int64_t n = x_mayor ? std::llabs(dx) : std::llabs(dy);
@@ -62,7 +87,7 @@ void Superficie::Line(double x1, double y1, double x2, double y2, Color c) {
         return;
     }
     // Steps whose major coordinate (origen + paso * i) lies on the surface.
-    const int64_t origen = x_mayor ? *ax : *ay;
+    const int64_t origen = x_mayor ? ax : ay;
     const int64_t paso = x_mayor ? sx : sy;
     const int64_t tope = x_mayor ? ancho_ : alto_;
     int64_t desde = 0, hasta = n - 1;
@@ -77,8 +102,8 @@ void Superficie::Line(double x1, double y1, double x2, double y2, Color c) {
     Rectangulo caja;
     for (int64_t i = desde; i <= hasta; ++i) {
         const int64_t j = (2 * i * m + n) / (2 * n);
-        const auto x = static_cast<int32_t>(*ax + sx * (x_mayor ? i : j));
-        const auto y = static_cast<int32_t>(*ay + sy * (x_mayor ? j : i));
+        const auto x = static_cast<int32_t>(ax + sx * (x_mayor ? i : j));
+        const auto y = static_cast<int32_t>(ay + sy * (x_mayor ? j : i));
         if (Limites().Contiene(x, y)) {
             EscribePixel(x, y, pixel);
             caja = trazos::Union(caja, RectanguloDe(x, y, 1, 1));
@@ -92,15 +117,11 @@ void Superficie::Caja(double x1, double y1, double x2, double y2) {
 }
 
 void Superficie::Caja(double x1, double y1, double x2, double y2, Color c) {
-    const auto ax = Redondeado(x1), ay = Redondeado(y1);
-    const auto bx = Redondeado(x2), by = Redondeado(y2);
-    if (!ax || !ay || !bx || !by) {
+    const auto e = Redondea(*this, x1, y1, x2, y2);
+    if (!e) {
         return;
     }
-    CurrentX = x2;
-    CurrentY = y2;
-    const int32_t l = std::min(*ax, *bx), r = std::max(*ax, *bx);
-    const int32_t t = std::min(*ay, *by), b = std::max(*ay, *by);
+    const int32_t l = e->Izquierda(), r = e->Derecha(), t = e->Arriba(), b = e->Abajo();
     if (RellenaFiguras) {
         const uint32_t relleno = APixel(FillColor);
         for (int32_t y = std::max(t + 1, 0); y < std::min(b, alto_); ++y) {
@@ -138,15 +159,11 @@ void Superficie::Caja(double x1, double y1, double x2, double y2, Color c) {
 // The whole box in one colour, both corners included; the draw mode
 // applies, as it does to every figure.
 void Superficie::CajaLlena(double x1, double y1, double x2, double y2, Color c) {
-    const auto ax = Redondeado(x1), ay = Redondeado(y1);
-    const auto bx = Redondeado(x2), by = Redondeado(y2);
-    if (!ax || !ay || !bx || !by) {
+    const auto e = Redondea(*this, x1, y1, x2, y2);
+    if (!e) {
         return;
     }
-    CurrentX = x2;
-    CurrentY = y2;
-    const int32_t l = std::min(*ax, *bx), r = std::max(*ax, *bx);
-    const int32_t t = std::min(*ay, *by), b = std::max(*ay, *by);
+    const int32_t l = e->Izquierda(), r = e->Derecha(), t = e->Arriba(), b = e->Abajo();
     const uint32_t pixel = APixel(c);
     for (int32_t y = std::max(t, 0); y <= std::min(b, alto_ - 1); ++y) {
         trazos::PintaTramo(*this, y, l, r + 1, pixel, DrawMode == DRAWMODE_INVIERTE);

@@ -76,22 +76,11 @@ void PideImagenYBaraja() {
 
 // No usable file: the settings of a first run, and the dialog.
 void EmpiezaDeCero() {
-    FactorPegado = 50;
-    ColorFondo = 3;
-    Velocidad = 50;
-    Cronometro = 2;
-    Sonido = 1;
-    Pistas = 1;
-    NroPiezas = 64;
-    PiezasPorLado = 8;
-    TipoPieza = 1;
-    PiezasDobles = 0;
+    PonAjustesPrimerArranque();
     PartidaValida = FALSO;
     SegundosCronometro = 0;
-    Zoom = 100;
     UnidadImagen = UnidadDeCarpeta(DirectorioTrabajo);
     CarpetaImagen = DirectorioTrabajo;
-    BotonEnSiempre.fill(true);
     DejaOrigenEnBlanco();
     PideImagenYBaraja();
 }
@@ -132,7 +121,7 @@ Recarga RecargaImagen(bool sinError, int64_t &w, int64_t &h) {
 
 void RechazaImagen(int64_t w, int64_t h) {
     teselari.MousePointer = PUNTERO_NORMAL;
-    ReproduceSonido(9);
+    ReproduceSonido(Clips::Rechazo);
     MuestraMensaje(MensajeImagenRechazada(w, h));
     DejaOrigenEnBlanco();
     Zoom = 100;
@@ -142,7 +131,7 @@ void RechazaImagen(int64_t w, int64_t h) {
 
 void LamentaImagenPerdida() {
     teselari.MousePointer = PUNTERO_NORMAL;
-    ReproduceSonido(9);
+    ReproduceSonido(Clips::Rechazo);
     MuestraMensaje(MensajeImagenPerdida(FicheroImagen));
     DejaOrigenEnBlanco();
     PideImagenYBaraja();
