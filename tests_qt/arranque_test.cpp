@@ -5,6 +5,7 @@
 
 #include "core/PuzzGbl.h"
 #include "qt/Arranque.h"
+#include "qt/ImagenQt.h"
 
 using namespace PuzzGbl;
 

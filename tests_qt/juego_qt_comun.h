@@ -24,6 +24,7 @@
 #include "panels/Paneles.h"
 #include "qt/Arranque.h"
 #include "qt/FormMensajes.h"
+#include "qt/ImagenQt.h"
 #include "qt/Manejadores.h"
 #include "qt/VentanaTeselari.h"
 #include "qt/VistaSuperficie.h"

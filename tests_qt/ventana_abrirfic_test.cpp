@@ -22,6 +22,7 @@
 #include "dialog/GuardaBmp.h"
 #include "qt/Arranque.h"
 #include "qt/CargaImagenQt.h"
+#include "qt/ImagenQt.h"
 #include "qt/RotuladorQt.h"
 #include "qt/VentanaAbrirFic.h"
 #include "qt/VistaSuperficie.h"

@@ -1,4 +1,5 @@
 #include "qt/Arranque.h"
+#include "qt/ImagenQt.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -73,21 +74,6 @@ QString RutaTiraBotones() {
 
 QString RutaCaraCronometro() {
     return QStringLiteral(":/teselari/cronometro.png");
-}
-
-bool CargaRecurso(const QString &ruta, Superficie &s) {
-    QImage imagen(ruta);
-    if (imagen.isNull()) {
-        return false;
-    }
-    imagen = imagen.convertToFormat(QImage::Format_RGB32);
-    const int ancho = std::min(imagen.width(), s.Ancho());
-    const int alto = std::min(imagen.height(), s.Alto());
-    for (int y = 0; y < alto; ++y) {
-        std::memcpy(s.Fila(y), imagen.constScanLine(y), static_cast<size_t>(ancho) * 4);
-    }
-    s.Cambiado(s.Limites());
-    return true;
 }
 
 void PonArranqueMedido(double vueltasPorSegundo, const QString &carpetaPrograma) {

@@ -30,11 +30,6 @@ void PonArranqueMedido(double vueltasPorSegundo, const QString &carpetaPrograma)
 // load that don't look at the splash leave it out.
 void PonCaretaEnArranque(bool mostrar);
 
-// A picture of the resources into a surface of the form, at its top left
-// corner and within the surface's size: the strip of button images into
-// Pic_BmpBoton, the face of the chronometer into Pic_Cronome. False when
-// the resource is missing (the surface keeps its grey).
-bool CargaRecurso(const QString &ruta, Superficie &s);
 QString RutaTiraBotones();
 QString RutaCaraCronometro();
 

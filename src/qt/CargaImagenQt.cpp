@@ -1,5 +1,7 @@
 #include "qt/CargaImagenQt.h"
 
+#include "qt/ImagenQt.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <cstring>
@@ -36,16 +38,6 @@ Decodificacion Decodifica(QFile &f) {
 }
 
 } // namespace
-
-void CopiaEnSuperficie(const QImage &imagen, Superficie &destino) {
-    // The rows of an RGB32 image are the surface's 0xFFRRGGBB words.
-    destino.CambiaTamano(imagen.width(), imagen.height());
-    for (int y = 0; y < imagen.height(); ++y) {
-        std::memcpy(destino.Fila(y), imagen.constScanLine(y),
-                    static_cast<size_t>(imagen.width()) * 4);
-    }
-    destino.Cambiado(destino.Limites());
-}
 
 CargaDeImagen CargaImagenQt(const std::string &fichero, Superficie &destino) {
     const QString nombre = QString::fromStdString(fichero);

@@ -16,6 +16,3 @@ class Superficie;
 // can't be decoded or is cut short leaves the surface a white 320 x 240;
 // so does one stating a size past use, which isn't decoded.
 CargaDeImagen CargaImagenQt(const std::string &fichero, Superficie &destino);
-
-// Gives the surface the size of an RGB32 picture and copies its pixels in.
-void CopiaEnSuperficie(const QImage &imagen, Superficie &destino);

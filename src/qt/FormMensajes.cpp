@@ -1,4 +1,5 @@
 #include "qt/FormMensajes.h"
+#include "qt/ImagenQt.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -58,10 +59,6 @@ void DibujaBoton(Superficie &s, int16_t imagen) {
 void PonPunteroPantalla(int16_t puntero) {
     teselari.MousePointer = puntero;
     AplicaPunteroPantalla(puntero);
-}
-
-QColor ColorQt(Color c) {
-    return QColor::fromRgb(APixel(c));
 }
 
 } // namespace

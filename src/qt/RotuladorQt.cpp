@@ -1,4 +1,5 @@
 #include "qt/RotuladorQt.h"
+#include "qt/ImagenQt.h"
 
 #include <QColor>
 #include <QFontDatabase>
@@ -84,6 +85,6 @@ void RotuladorQt::Dibuja(Superficie &s, const Fuente &f, double x, double y, Col
     }
     const QFont fuente = FuenteDeSuperficie(f);
     p.setFont(fuente);
-    p.setPen(QColor::fromRgb(APixel(c)));
+    p.setPen(ColorQt(c));
     p.drawText(QPointF(x, y + QFontMetricsF(fuente).ascent()), QString::fromStdString(texto));
 }

@@ -10,6 +10,7 @@
 #include "dialog/ServiciosDialogo.h"
 #include "qt/Arranque.h"
 #include "qt/CargaImagenQt.h"
+#include "qt/ImagenQt.h"
 #include "qt/VentanaAbrirFic.h"
 
 namespace {
@@ -41,7 +42,7 @@ bool TomaImagenPortapapeles(Superficie &destino) {
     if (imagen.isNull()) {
         return false;
     }
-    CopiaEnSuperficie(imagen.convertToFormat(QImage::Format_RGB32), destino);
+    CopiaEnSuperficie(imagen, destino);
     return true;
 }
 

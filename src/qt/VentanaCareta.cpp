@@ -1,4 +1,5 @@
 #include "qt/VentanaCareta.h"
+#include "qt/ImagenQt.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

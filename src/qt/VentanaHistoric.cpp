@@ -1,4 +1,5 @@
 #include "qt/VentanaHistoric.h"
+#include "qt/ImagenQt.h"
 
 #include <QApplication>
 #include <QKeyEvent>

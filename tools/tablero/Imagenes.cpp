@@ -29,15 +29,6 @@ bool EscribePng(const Superficie &s, const std::string &ruta, std::string &error
     return true;
 }
 
-void CopiaEnSuperficie(const QImage &imagen, Superficie &s) {
-    const QImage rgb = imagen.convertToFormat(QImage::Format_RGB32);
-    s.CambiaTamano(rgb.width(), rgb.height());
-    const size_t bytesFila = static_cast<size_t>(rgb.width()) * 4;
-    for (int y = 0; y < rgb.height(); ++y) {
-        std::memcpy(s.Fila(y), rgb.constScanLine(y), bytesFila);
-    }
-}
-
 std::optional<QImage> LeeImagen(const std::string &ruta, std::string &error) {
     std::error_code ec;
     if (!std::filesystem::is_regular_file(ruta, ec)) {

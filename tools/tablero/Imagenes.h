@@ -1,6 +1,8 @@
 // Between Qt's pictures and the engine's surfaces.
 #pragma once
 
+#include "qt/ImagenQt.h"
+
 #include <QImage>
 #include <optional>
 #include <string>
@@ -14,10 +16,6 @@ QImage ImagenDeSuperficie(const Superficie &s);
 // Writes the surface as a PNG file. False, with a reason in `error`, when the
 // surface has no pixels or the file cannot be written.
 bool EscribePng(const Superficie &s, const std::string &ruta, std::string &error);
-
-// Gives the surface the size of the picture and copies its pixels in; the
-// picture is taken as opaque RGB.
-void CopiaEnSuperficie(const QImage &imagen, Superficie &s);
 
 // Reads a picture file, turned as its metadata says. Nothing, with a reason
 // in `error`, when it is missing or unreadable.
