@@ -9,6 +9,7 @@
 #include <string>
 
 #include "RegistrosBench.h"
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "history/CamposHistorico.h"
 #include "history/Historico.h"
@@ -79,7 +80,9 @@ void BM_AnadeHistorico(benchmark::State &state) {
     const std::string carpeta = CarpetaConHistorico();
     PuzzGbl::DirectorioTrabajo = carpeta;
     LeeHistorico();
-    PonRelojHistorico(Reloj);
+    ServiciosPlataforma servicios;
+    servicios.Calendario = Reloj;
+    InstalaPlataforma(servicios);
     PuzzGbl::NombreImagen = "CASA.JPG";
     for (auto _ : state) {
         AnadeHistorico();
@@ -87,7 +90,7 @@ void BM_AnadeHistorico(benchmark::State &state) {
     if (!PuzzGbl::LineasHistoricoPendientes.empty()) {
         state.SkipWithError("a record did not reach the file");
     }
-    PonRelojHistorico(nullptr);
+    InstalaPlataforma(ServiciosPlataforma{});
     Quita(carpeta);
 }
 BENCHMARK(BM_AnadeHistorico)

@@ -9,6 +9,7 @@
 #include "paneles_comun.h"
 #include "panels/Comandos.h"
 #include "panels/Paneles.h"
+#include "plataforma_prueba.h"
 #include "services/Ayuda.h"
 
 using namespace PuzzGbl;
@@ -30,14 +31,14 @@ class Ayuda : public Motor {
   protected:
     void SetUp() override {
         llamadas.clear();
-        PonMostradorAyuda(AyudaDoble);
+        PonServicio(&ServiciosPlataforma::MuestraAyuda, AyudaDoble);
         PreparaJuego(4, 0, 400, 300);
         PintaTiraPrueba(teselari.Pic_BmpBoton);
         PreparaBitmap();
         DibujaBotonesSiempre();
     }
     void TearDown() override {
-        PonMostradorAyuda(nullptr);
+        PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
         Motor::TearDown();
     }
 };

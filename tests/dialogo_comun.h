@@ -13,6 +13,7 @@
 #include "dialog/FormAbrirFic.h"
 #include "dialog/GuardaBmp.h"
 #include "dialog/ServiciosDialogo.h"
+#include "plataforma_prueba.h"
 #include "services/Ayuda.h"
 #include "services/Sonidos.h"
 #include "sesion_comun.h"
@@ -102,10 +103,10 @@ class Dialogo : public Sesion {
     void SetUp() override {
         using namespace dialogo_prueba;
         Sesion::SetUp();
-        PonCargadorImagen(CargadorBmp);
-        PonRotulador(&rotulador);
-        PonServiciosDialogo({MuestraModalDePrueba, CargaTiraDePrueba});
-        PonMostradorAyuda(AyudaDePrueba);
+        PonServicio(&ServiciosPlataforma::CargaImagen, CargadorBmp);
+        PonServicio(&ServiciosPlataforma::Texto, &rotulador);
+        PonServicio(&ServiciosPlataforma::Dialogo, {MuestraModalDePrueba, CargaTiraDePrueba});
+        PonServicio(&ServiciosPlataforma::MuestraAyuda, AyudaDePrueba);
         alMostrar = nullptr;
         temasAyuda.clear();
         fotos = raiz + "/fotos";
@@ -127,9 +128,9 @@ class Dialogo : public Sesion {
         CalculaPiezas();
     }
     void TearDown() override {
-        PonServiciosDialogo({});
-        PonMostradorAyuda(nullptr);
-        PonRotulador(nullptr);
+        PonServicio(&ServiciosPlataforma::Dialogo, {});
+        PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
+        PonServicio(&ServiciosPlataforma::Texto, nullptr);
         dialogo_prueba::alMostrar = nullptr;
         Sesion::TearDown();
     }

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "dialogo_comun.h"
+#include "plataforma_prueba.h"
 
 using namespace PuzzGbl;
 using sesion_prueba::mensajes;
@@ -84,7 +85,7 @@ class ImagenGrande : public Dialogo, public ::testing::WithParamInterface<CasoGr
 TEST_P(ImagenGrande, ElZoomCuentaConElTamanoDelFichero) {
     grande = GetParam();
     EscribeBmp("g.bmp", 20, 20);
-    PonCargadorImagen(CargadorReducido);
+    PonServicio(&ServiciosPlataforma::CargaImagen, CargadorReducido);
     Abre();
     Elige("g.bmp");
     EXPECT_EQ(Zoom, grande.zoom);
@@ -280,7 +281,8 @@ bool TomaImagen(Superficie &s) {
 } // namespace
 
 TEST_F(Dialogo, ElPortapapelesPasaPorTeseportComoCualquierFichero) {
-    PonServiciosDialogo({dialogo_prueba::MuestraModalDePrueba, nullptr, ConImagen, TomaImagen});
+    PonServicio(&ServiciosPlataforma::Dialogo,
+                {dialogo_prueba::MuestraModalDePrueba, nullptr, ConImagen, TomaImagen});
     Abre();
     EXPECT_TRUE(f->Bot_Portapapeles.Enabled);
     f->Bot_Portapapeles_Click();

@@ -2,6 +2,7 @@
 // the attraction test and the two-state selectors of AbrirFic.
 #include "dialog/Rejillas.h"
 #include "dialogo_comun.h"
+#include "plataforma_prueba.h"
 
 using namespace PuzzGbl;
 using sesion_prueba::mensajes;
@@ -132,7 +133,7 @@ TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
     enPrueba = f.get();
     vueltas = 0;
     vueltasHastaSoltar = 15;
-    PonServiciosPlataforma(
+    PonEscritorio(
         {sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba, SueltaTrasVueltas});
     // Velocidad is its own stepper: the repeat gets faster as it goes.
     f->Pic_Velocidad_MouseDown(1, 0, SUBE_X, SUBE_Y);
@@ -141,8 +142,7 @@ TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
     EXPECT_EQ(f->PasoVelocidad.Subiendo, FALSO);
     EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 2), 4);
     // Leaving the arrow ends the repeat after one step.
-    PonServiciosPlataforma(
-        {sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba, SaleDeLaFlecha});
+    PonEscritorio({sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba, SaleDeLaFlecha});
     f->Pic_Velocidad_MouseDown(1, 0, BAJA_X, BAJA_Y);
     EXPECT_EQ(Velocidad, 95);
     EXPECT_EQ(f->PasoVelocidad.Bajando, FALSO);

@@ -15,6 +15,7 @@
 #include "core/EscrituraSegura.h"
 #include "history/CamposHistorico.h"
 #include "history/Historico.h"
+#include "plataforma_prueba.h"
 #include "tablero_comun.h"
 
 inline FechaHora RelojFijo() {
@@ -87,11 +88,11 @@ class Historia : public ::testing::Test {
         carpeta = plantilla;
         PuzzGbl::DirectorioTrabajo = carpeta;
         InstalaEscritorio();
-        PonRelojHistorico(RelojFijo);
+        PonServicio(&ServiciosPlataforma::Calendario, RelojFijo);
     }
     void TearDown() override {
         SimulaFalloEscritura(-1);
-        PonRelojHistorico(nullptr);
+        PonServicio(&ServiciosPlataforma::Calendario, nullptr);
         QuitaEscritorio();
         if (::chdir("/") != 0) {
             // the folder goes anyway

@@ -10,6 +10,7 @@
 #include "board/Arrastre.h"
 #include "board/Raton.h"
 #include "historico_comun.h"
+#include "plataforma_prueba.h"
 
 using namespace PuzzGbl;
 
@@ -166,9 +167,9 @@ TEST_F(Historia, SinFicheroLoDiceEnCadaArranque) {
     }
     // A face too wide for two lines gets the message the lines it needs.
     RotuladorPrueba ancho;
-    PonRotulador(&ancho);
+    PonServicio(&ServiciosPlataforma::Texto, &ancho);
     LeeHistorico();
-    PonRotulador(nullptr);
+    PonServicio(&ServiciosPlataforma::Texto, nullptr);
     EXPECT_EQ(escritorio.mensajes.back().lineas, 3);
     std::filesystem::create_directory(Ruta());
     LeeHistorico();
@@ -247,7 +248,7 @@ class Final : public Historia {
         Historia::SetUp();
         PreparaTablero(3, 0, 300, 300);
         DirectorioTrabajo = carpeta;
-        PonRelojHistorico(RelojFijo);
+        PonServicio(&ServiciosPlataforma::Calendario, RelojFijo);
         NombreImagen = "Muñeca \"Ñ\"\nde trapo.jpg";
         NombreJugador = CadenaFija("Lucía", 9);
         SegundosCronometro = 3725;

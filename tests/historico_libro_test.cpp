@@ -7,6 +7,7 @@
 #include "history/FormHistoric.h"
 #include "history/ServiciosHistorico.h"
 #include "panels/Comandos.h"
+#include "plataforma_prueba.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;
@@ -17,11 +18,11 @@ class Libro : public Historia {
   protected:
     void SetUp() override {
         Historia::SetUp();
-        PonRotulador(&rotulador);
+        PonServicio(&ServiciosPlataforma::Texto, &rotulador);
     }
     void TearDown() override {
-        PonRotulador(nullptr);
-        PonServiciosHistorico(ServiciosHistorico{});
+        PonServicio(&ServiciosPlataforma::Texto, nullptr);
+        PonServicio(&ServiciosPlataforma::Historico, ServiciosHistorico{});
         Historia::TearDown();
     }
     void Llena(const std::vector<RegistroHistorico> &registros) {
@@ -318,7 +319,7 @@ TEST_F(Libro, LaPaginaSeExtiendeEnDoblePagina) {
         }
         etiquetas.CajaLlena(0, 0, 123, 297, 0x123456);
     };
-    PonServiciosHistorico(s);
+    PonServicio(&ServiciosPlataforma::Historico, s);
     FormHistoric f;
     f.Form_Load();
     for (int32_t x = 0; x < FormHistoric::ANCHO; ++x) {
@@ -349,7 +350,7 @@ TEST_F(Libro, LaOrdenDiezAbreElLibro) {
         EXPECT_EQ(teselari.MousePointer, PUNTERO_NORMAL);
         EXPECT_EQ(f.MarcaLibro, 0);
     };
-    PonServiciosHistorico(s);
+    PonServicio(&ServiciosPlataforma::Historico, s);
     ArrancaCronometro();
     PulsaBoton(10);
     EXPECT_EQ(abierto, 1);

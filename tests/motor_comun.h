@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/PuzzGbl.h"
+#include "plataforma_prueba.h"
 #include "raster/Superficie.h"
 
 // A deterministic colourful picture: gradients and a fine pattern, so that
@@ -30,7 +31,7 @@ inline void PintaImagenGenerada(Superficie &s, int32_t ancho, int32_t alto) {
 inline void PreparaJuego(int16_t lado, int16_t tipo, int32_t ancho, int32_t alto,
                          int16_t anchoPantalla = 1024, int16_t altoPantalla = 768) {
     using namespace PuzzGbl;
-    RestauraValoresIniciales();
+    RestauraSobreLaPlataforma();
     AnchoPantalla = anchoPantalla;
     AltoPantalla = altoPantalla;
     PiezasPorLado = lado;

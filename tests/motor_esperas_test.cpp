@@ -2,6 +2,7 @@
 // test drives, also across midnight.
 #include "core/PuzzGbl.h"
 #include "motor_comun.h"
+#include "plataforma_prueba.h"
 #include "services/Esperas.h"
 #include "services/Reloj.h"
 
@@ -30,10 +31,10 @@ class Esperas : public Motor {
         horaFalsa = hora;
         pasoFalso = paso;
         lecturas = 0;
-        PonReloj(RelojFalso);
+        PonServicio(&ServiciosPlataforma::Reloj, RelojFalso);
     }
     void TearDown() override {
-        PonReloj(nullptr);
+        PonServicio(&ServiciosPlataforma::Reloj, nullptr);
         Motor::TearDown();
     }
 };
@@ -109,14 +110,14 @@ TEST_F(Esperas, EsperaVueltasTerminaAunqueCruceMedianoche) {
 TEST(Reloj, CuentaElTiempoPasadoTrasLaMedianoche) {
     horaFalsa = SEGUNDOS_DIA - 1.0;
     pasoFalso = 0.25;
-    PonReloj(RelojFalso);
+    PonServicio(&ServiciosPlataforma::Reloj, RelojFalso);
     Cronometraje c;
     double ultimo = 0;
     for (int i = 0; i < 12; ++i) {
         ultimo = c.Transcurrido();
     }
     EXPECT_DOUBLE_EQ(ultimo, 3.0);
-    PonReloj(nullptr);
+    PonServicio(&ServiciosPlataforma::Reloj, nullptr);
     const double t = Timer();
     EXPECT_GE(t, 0.0);
     EXPECT_LT(t, SEGUNDOS_DIA);

@@ -10,6 +10,7 @@
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
+#include "plataforma_prueba.h"
 #include "raster/Raster.h"
 #include "services/Azar.h"
 
@@ -259,7 +260,7 @@ TEST_F(Motor, PiezaPrioritariaSubeUnaYConservaElResto) {
 
 TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
     RotuladorDePrueba r;
-    PonRotulador(&r);
+    PonServicio(&ServiciosPlataforma::Texto, &r);
     struct Caso {
         int16_t lado, colocadas;
         const char *texto;
@@ -282,7 +283,7 @@ TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
         EXPECT_EQ(r.impresos[0].first, DivEntera(Redondea(56 - 4 - ancho), 2));
         EXPECT_EQ(teselari.Pic_BSInfo.CurrentY, 3);
     }
-    PonRotulador(nullptr);
+    PonServicio(&ServiciosPlataforma::Texto, nullptr);
 }
 
 TEST_F(Motor, RestauraBitmapMuestraLaImagenLimpia) {

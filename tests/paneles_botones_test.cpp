@@ -3,6 +3,7 @@
 #include "paneles_comun.h"
 #include "panels/BotonesRaton.h"
 #include "panels/Paneles.h"
+#include "plataforma_prueba.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;
@@ -122,10 +123,10 @@ TEST_F(Paneles, ElPanelNoTapaElCronometro) {
 
 TEST_F(Paneles, ElPanelEscribeLaCuentaAlPie) {
     RotuladorRegistro r;
-    PonRotulador(&r);
+    PonServicio(&ServiciosPlataforma::Texto, &r);
     NroPiezas = 64;
     DibujaBotonesSiempre();
-    PonRotulador(nullptr);
+    PonServicio(&ServiciosPlataforma::Texto, nullptr);
     ASSERT_EQ(r.textos.size(), 1u);
     EXPECT_EQ(r.textos[0].texto, "0 / 64");
     EXPECT_EQ(r.textos[0].color, 0xFF0000u);

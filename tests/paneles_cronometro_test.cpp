@@ -1,10 +1,11 @@
 // The chronometer panel: the time on its face, the tick, the keys, the
 // pointer and the drag.
 #include "core/Cronometro.h"
+#include "core/Plataforma.h"
 #include "paneles_comun.h"
 #include "panels/PanelCronometro.h"
 #include "panels/TiempoCronometro.h"
-#include "services/Plataforma.h"
+#include "plataforma_prueba.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;
@@ -42,16 +43,16 @@ class PanelCronometro : public Motor {
     void SetUp() override {
         RestauraValoresIniciales();
         PreparaPantallaPaneles();
-        PonRotulador(&rotulador);
+        PonServicio(&ServiciosPlataforma::Texto, &rotulador);
         clips.clear();
-        PonServiciosPlataforma({nullptr, Anota, nullptr, nullptr});
+        PonEscritorio({nullptr, Anota, nullptr, nullptr});
         Sonido = 1;
         teselari.Pic_Cronome.Move(500, 100);
         teselari.Pic_Cronome.Visible = true;
     }
     void TearDown() override {
-        PonRotulador(nullptr);
-        PonServiciosPlataforma({});
+        PonServicio(&ServiciosPlataforma::Texto, nullptr);
+        PonEscritorio({});
         Motor::TearDown();
     }
     static void Anota(int16_t clip) { clips.push_back(clip); }

@@ -9,12 +9,13 @@
 
 #include "board/Render.h"
 #include "core/Cronometro.h"
+#include "core/Plataforma.h"
 #include "cutting/Corte.h"
 #include "paneles_comun.h"
 #include "panels/BotonesRaton.h"
 #include "panels/Comandos.h"
 #include "panels/Paneles.h"
-#include "services/Plataforma.h"
+#include "plataforma_prueba.h"
 
 using namespace PuzzGbl;
 
@@ -57,7 +58,7 @@ class Pulsa : public Motor {
         std::filesystem::remove_all(carpeta_);
         std::filesystem::create_directories(carpeta_);
         ganchos = Ganchos{};
-        PonServiciosPlataforma({MensajeDoble, SonidoDoble, EventosDoble, TerminaDoble});
+        PonEscritorio({MensajeDoble, SonidoDoble, EventosDoble, TerminaDoble});
         PreparaJuego(4, 0, 400, 300);
         PintaTiraPrueba(teselari.Pic_BmpBoton);
         Sonido = 2;
@@ -66,7 +67,7 @@ class Pulsa : public Motor {
         DibujaBotonesSiempre(); // every button drawn up
     }
     void TearDown() override {
-        PonServiciosPlataforma({});
+        PonEscritorio({});
         std::filesystem::current_path(carpeta_previa_);
         std::filesystem::remove_all(carpeta_);
         Motor::TearDown();

@@ -3,10 +3,11 @@
 // leaves in the viewport.
 #include <functional>
 
+#include "core/Plataforma.h"
 #include "motor_comun.h"
+#include "plataforma_prueba.h"
 #include "raster/Raster.h"
 #include "services/Careta.h"
-#include "services/Plataforma.h"
 #include "services/Reloj.h"
 
 using namespace PuzzGbl;
@@ -50,7 +51,7 @@ class Careta : public Motor {
         alCeder = nullptr;
         ServiciosPlataforma s;
         s.Eventos = CedePrueba;
-        PonServiciosPlataforma(s);
+        PonEscritorio(s);
         Velocidad = 100;
         PintaFuente(form.Pic_Logo, 0x100000, true);
         PintaFuente(form.Pic_Icono, 0x200000, true);
@@ -58,8 +59,8 @@ class Careta : public Motor {
         form.Form_Load(1024, 768);
     }
     void TearDown() override {
-        PonServiciosPlataforma({});
-        PonReloj(nullptr);
+        PonEscritorio({});
+        PonServicio(&ServiciosPlataforma::Reloj, nullptr);
         Motor::TearDown();
     }
     FormCareta form;
@@ -138,7 +139,7 @@ TEST_F(Careta, SolaTerminaTrasDosPasadasAlRitmoDeLaVelocidad) {
         f.Form_Load(800, 600);
         fotogramas = 0;
         hora = 1000.0;
-        PonReloj(RelojPrueba);
+        PonServicio(&ServiciosPlataforma::Reloj, RelojPrueba);
         Velocidad = c.velocidad;
         int32_t finPrimera = 0;
         alCeder = [&f, &finPrimera](int32_t n) {

@@ -2,9 +2,10 @@
 // the re-entry point, through the hooks the platform fills.
 #include <vector>
 
+#include "core/Plataforma.h"
 #include "motor_comun.h"
+#include "plataforma_prueba.h"
 #include "services/Mensajes.h"
-#include "services/Plataforma.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;
@@ -20,8 +21,12 @@ bool MensajeDePrueba(const std::string &titulo, const std::string &) {
     titulos.push_back(titulo);
     return respuesta;
 }
-void SonidoDePrueba(int16_t clip) { clips.push_back(clip); }
-void EventosDePrueba() { ++eventos; }
+void SonidoDePrueba(int16_t clip) {
+    clips.push_back(clip);
+}
+void EventosDePrueba() {
+    ++eventos;
+}
 
 class Servicios : public Motor {
   protected:
@@ -29,10 +34,10 @@ class Servicios : public Motor {
         titulos.clear();
         clips.clear();
         eventos = 0;
-        PonServiciosPlataforma({MensajeDePrueba, SonidoDePrueba, EventosDePrueba});
+        PonEscritorio({MensajeDePrueba, SonidoDePrueba, EventosDePrueba});
     }
     void TearDown() override {
-        PonServiciosPlataforma({});
+        PonEscritorio({});
         Motor::TearDown();
     }
 };
@@ -60,7 +65,7 @@ TEST_F(Servicios, ElMensajeDejaLaRespuestaYSusMedidas) {
     }
     EXPECT_EQ(titulos.size(), 4u);
     // With no dialog installed, any message closes as if by a key: "Aceptar".
-    PonServiciosPlataforma({});
+    PonEscritorio({});
     MuestraMensaje("TESELARI", "x", 1, 2);
     EXPECT_EQ(RespuestaMensaje, VERDADERO);
 }

@@ -13,11 +13,12 @@
 #include <string>
 #include <vector>
 
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/TextoIni.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
-#include "services/Plataforma.h"
+#include "plataforma_prueba.h"
 #include "session/Sesion.h"
 
 namespace sesion_prueba {
@@ -169,17 +170,17 @@ class Sesion : public Motor {
         setenv("XDG_DATA_HOME", datos.c_str(), 1);
         mensajes.clear();
         sonidos.clear();
-        PonServiciosPlataforma({MensajeDePrueba, SonidoDePrueba});
-        PonCargadorImagen(CargadorDePrueba);
-        PonDirectorioPrograma(programa);
+        PonEscritorio({MensajeDePrueba, SonidoDePrueba});
+        PonServicio(&ServiciosPlataforma::CargaImagen, CargadorDePrueba);
+        PonServicio(&ServiciosPlataforma::DirectorioPrograma, programa);
         PreparaPantalla();
         PuzzGbl::DirectorioTrabajo = programa;
     }
     void TearDown() override {
         std::filesystem::current_path(antes);
-        PonServiciosPlataforma({});
-        PonCargadorImagen(nullptr);
-        PonDirectorioPrograma("");
+        PonEscritorio({});
+        PonServicio(&ServiciosPlataforma::CargaImagen, nullptr);
+        PonServicio(&ServiciosPlataforma::DirectorioPrograma, "");
         std::filesystem::remove_all(raiz);
         Motor::TearDown();
     }
@@ -187,7 +188,7 @@ class Sesion : public Motor {
     // A fresh state on a 1024 x 768 screen, no delays, the panel in place.
     static void PreparaPantalla() {
         using namespace PuzzGbl;
-        RestauraValoresIniciales();
+        RestauraSobreLaPlataforma();
         AnchoPantalla = 1024;
         AltoPantalla = 768;
         VueltasPorSegundo = 0;

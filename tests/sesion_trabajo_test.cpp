@@ -2,6 +2,7 @@
 // user's data folder with the program's files copied once.
 #include <filesystem>
 
+#include "plataforma_prueba.h"
 #include "sesion_comun.h"
 
 using namespace PuzzGbl;
@@ -109,7 +110,7 @@ TEST_F(Sesion, LaCarpetaDelProgramaSeGuardaSinBarraFinal) {
     const std::pair<const char *, const char *> casos[] = {
         {"/opt/teselari/", "/opt/teselari"}, {"/opt/teselari", "/opt/teselari"}, {"/", "/"}};
     for (const auto &[dado, guardado] : casos) {
-        PonDirectorioPrograma(dado);
+        PonServicio(&ServiciosPlataforma::DirectorioPrograma, dado);
         EXPECT_EQ(DirectorioPrograma(), guardado);
     }
 }

@@ -9,9 +9,10 @@
 
 #include "board/Barajar.h"
 #include "board/Render.h"
+#include "core/Plataforma.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
-#include "services/Plataforma.h"
+#include "plataforma_prueba.h"
 
 // What the desktop was asked to do.
 struct Escritorio {
@@ -48,11 +49,11 @@ inline void InstalaEscritorio() {
             escritorio.alDejarPasarEventos(escritorio.eventos);
         }
     };
-    PonServiciosPlataforma(s);
+    PonEscritorio(s);
 }
 
 inline void QuitaEscritorio() {
-    PonServiciosPlataforma(ServiciosPlataforma{});
+    PonEscritorio(ServiciosPlataforma{});
     escritorio = Escritorio{};
 }
 

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "core/PuzzGbl.h"
+#include "plataforma_prueba.h"
 #include "qt/VentanaAyuda.h"
 #include "qt/VentanaTeselari.h"
 #include "raster/Superficie.h"
@@ -123,12 +124,12 @@ TEST(LibroAyuda, NombraLosBotonesComoElJuego) {
 
 class Ventana : public testing::Test {
   protected:
-    void SetUp() override { PonMostradorAyuda(MuestraVentanaAyuda); }
+    void SetUp() override { PonServicio(&ServiciosPlataforma::MuestraAyuda, MuestraVentanaAyuda); }
     void TearDown() override {
         if (VentanaAyuda *v = VentanaAyudaAbierta()) {
             v->close();
         }
-        PonMostradorAyuda(nullptr);
+        PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
     }
     static VentanaAyuda &Abierta() {
         VentanaAyuda *v = VentanaAyudaAbierta();
@@ -227,7 +228,7 @@ TEST(TeclaF1, PideElTemaDelControlBajoElRaton) {
     auto ventana = std::make_unique<VentanaTeselari>();
     ventana->MuestraPantallaCompleta();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(ventana.get()));
-    PonMostradorAyuda(AyudaDoble);
+    PonServicio(&ServiciosPlataforma::MuestraAyuda, AyudaDoble);
     const struct {
         QPoint punto;
         int16_t tema;
@@ -246,7 +247,7 @@ TEST(TeclaF1, PideElTemaDelControlBajoElRaton) {
         ASSERT_EQ(pedidos.size(), 1u);
         EXPECT_EQ(pedidos[0], c.tema) << c.punto.x() << "," << c.punto.y();
     }
-    PonMostradorAyuda(nullptr);
+    PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
     ventana.reset();
     RestauraValoresIniciales();
 }

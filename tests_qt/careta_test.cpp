@@ -8,10 +8,11 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
+#include "plataforma_prueba.h"
 #include "qt/VentanaCareta.h"
 #include "qt/VistaSuperficie.h"
-#include "services/Plataforma.h"
 
 using namespace PuzzGbl;
 
@@ -41,12 +42,12 @@ TEST(VentanaCareta, NegraSobreLaPantallaConElPanelEnMedioYUnaTeclaLaTermina) {
     Velocidad = 100;
     ServiciosPlataforma s;
     s.Eventos = CedeEnCareta;
-    PonServiciosPlataforma(s);
+    PonEscritorio(s);
     VentanaCareta careta;
     enCurso = &careta;
     MuestraCareta(careta);
     enCurso = nullptr;
-    PonServiciosPlataforma({});
+    PonEscritorio({});
 
     EXPECT_EQ(fotogramas, 40);
     EXPECT_TRUE(careta.Form().Cerrada());

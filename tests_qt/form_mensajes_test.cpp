@@ -6,11 +6,12 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
+#include "plataforma_prueba.h"
 #include "qt/FormMensajes.h"
 #include "qt/VistaSuperficie.h"
 #include "services/Mensajes.h"
-#include "services/Plataforma.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;
@@ -29,11 +30,11 @@ class FormMensajesTest : public testing::Test {
         ServiciosPlataforma s;
         s.Mensaje = MuestraFormMensajes;
         s.Sonido = ApuntaClip;
-        PonServiciosPlataforma(s);
+        PonEscritorio(s);
         ultimoClip = 0;
         Sonido = 1;
     }
-    void TearDown() override { PonServiciosPlataforma(ServiciosPlataforma{}); }
+    void TearDown() override { PonEscritorio(ServiciosPlataforma{}); }
 
     // Does `accion` on the modal message as soon as it is open.
     static void AlAbrirse(std::function<void(FormMensajes *)> accion) {

@@ -18,17 +18,18 @@
 #include <memory>
 #include <vector>
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
 #include "panels/Paneles.h"
+#include "plataforma_prueba.h"
 #include "qt/Arranque.h"
 #include "qt/FormMensajes.h"
 #include "qt/ImagenQt.h"
 #include "qt/Manejadores.h"
 #include "qt/VentanaTeselari.h"
 #include "qt/VistaSuperficie.h"
-#include "services/Plataforma.h"
 #include "tablero_comun.h"
 
 // The hook the tests put at the game's yields: it runs at each one, with the
@@ -70,7 +71,7 @@ class JuegoQt : public testing::Test {
         s.Mensaje = MuestraFormMensajes;
         s.Eventos = CedeEventosPrueba;
         s.Sonido = SuenaPrueba;
-        PonServiciosPlataforma(s);
+        PonEscritorio(s);
         alCederEventos = nullptr;
         alSonar = nullptr;
         eventosCedidos = 0;
@@ -105,7 +106,7 @@ class JuegoQt : public testing::Test {
         alCederEventos = nullptr;
         alSonar = nullptr;
         ventana.reset();
-        PonServiciosPlataforma(ServiciosPlataforma{});
+        PonEscritorio(ServiciosPlataforma{});
         RestauraValoresIniciales();
     }
 

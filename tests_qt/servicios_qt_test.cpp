@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "plataforma_prueba.h"
 #include "qt/CargaImagenQt.h"
 #include "qt/Cursores.h"
 #include "qt/ReproductorSonidos.h"
@@ -49,7 +50,7 @@ TEST(RotuladorQt, TamanosQueGuardanLasAlturasDeLinea) {
 
 TEST(RotuladorQt, DibujaEnLaSuperficieSoloDondeVaElTexto) {
     RotuladorQt r;
-    PonRotulador(&r);
+    PonServicio(&ServiciosPlataforma::Texto, &r);
     Superficie s(120, 40, COLOR_BLANCO);
     s.ForeColor = 0xFF0000; // blue
     s.CurrentX = 10;
@@ -71,7 +72,7 @@ TEST(RotuladorQt, DibujaEnLaSuperficieSoloDondeVaElTexto) {
         }
     }
     EXPECT_GT(azules, 20);
-    PonRotulador(nullptr);
+    PonServicio(&ServiciosPlataforma::Texto, nullptr);
 }
 
 TEST(CargaImagenQt, LeeUnaImagenConSusPixeles) {

@@ -14,6 +14,7 @@
 #include "dialog/TextosDialogo.h"
 #include "history/Historico.h"
 #include "panels/Ordenes.h"
+#include "plataforma_prueba.h"
 #include "qt/FormMensajes.h"
 #include "qt/RotuladorQt.h"
 #include "session/TextosSesion.h"
@@ -53,7 +54,7 @@ TEST(TextosCaben, CadaMensajeCabeEnLasLineasDeSuLlamada) {
     RestauraValoresIniciales();
     LlenaTablas();
     RotuladorQt rotulador;
-    PonRotulador(&rotulador);
+    PonServicio(&ServiciosPlataforma::Texto, &rotulador);
     for (const Mensaje &m : TodosLosMensajes()) {
         MensajeLineas = m.Lineas;
         MensajeBotones = m.Botones;
@@ -70,7 +71,7 @@ TEST(TextosCaben, CadaMensajeCabeEnLasLineasDeSuLlamada) {
         EXPECT_LE(titulo.horizontalAdvance(f.Tex_Titulo->text()), 365) << m.Titulo;
         EXPECT_LE(titulo.height(), 22);
     }
-    PonRotulador(nullptr);
+    PonServicio(&ServiciosPlataforma::Texto, nullptr);
 }
 
 } // namespace

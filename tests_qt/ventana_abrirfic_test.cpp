@@ -16,10 +16,12 @@
 #include <unistd.h>
 #include <vector>
 
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/PuzzGbl.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/GuardaBmp.h"
+#include "plataforma_prueba.h"
 #include "qt/Arranque.h"
 #include "qt/CargaImagenQt.h"
 #include "qt/ImagenQt.h"
@@ -27,7 +29,6 @@
 #include "qt/VentanaAbrirFic.h"
 #include "qt/VistaSuperficie.h"
 #include "services/Ayuda.h"
-#include "services/Plataforma.h"
 
 using namespace PuzzGbl;
 
@@ -70,10 +71,10 @@ class VentanaAbrirFicTest : public testing::Test {
         temas.clear();
         ServiciosPlataforma s;
         s.Mensaje = AnotaMensaje;
-        PonServiciosPlataforma(s);
-        PonCargadorImagen(CargaImagenQt);
-        PonMostradorAyuda(AnotaTema);
-        InstalaServiciosDialogo();
+        PonEscritorio(s);
+        PonServicio(&ServiciosPlataforma::CargaImagen, CargaImagenQt);
+        PonServicio(&ServiciosPlataforma::MuestraAyuda, AnotaTema);
+        PonServicio(&ServiciosPlataforma::Dialogo, ServiciosDialogoQt());
         CargaRecurso(RutaTiraBotones(), teselari.Pic_BmpBoton);
 
         const std::string dir = carpeta.string();
@@ -104,9 +105,9 @@ class VentanaAbrirFicTest : public testing::Test {
     void TearDown() override {
         ventana.reset();
         form.reset();
-        PonServiciosPlataforma({});
-        PonMostradorAyuda(nullptr);
-        PonCargadorImagen(nullptr);
+        PonEscritorio({});
+        PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
+        PonServicio(&ServiciosPlataforma::CargaImagen, nullptr);
         std::filesystem::current_path(std::filesystem::temp_directory_path());
         std::filesystem::remove_all(carpeta);
         RestauraValoresIniciales();

@@ -6,13 +6,14 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "history/FormHistoric.h"
 #include "panels/Comandos.h"
+#include "plataforma_prueba.h"
 #include "qt/Arranque.h"
 #include "qt/VentanaHistoric.h"
 #include "qt/VistaSuperficie.h"
-#include "services/Plataforma.h"
 
 using namespace PuzzGbl;
 
@@ -27,9 +28,8 @@ class VentanaHistoricTest : public testing::Test {
         InstalaServicios();
         ServiciosPlataforma s;
         s.Sonido = [](int16_t clip) { sonidos.push_back(clip); };
-        PonServiciosPlataforma(s);
+        PonEscritorio(s);
         sonidos.clear();
-        InstalaServiciosHistorico();
         Historico.assign(24, RegistroHistorico{});
         NroRegistrosHistorico = 3;
         NombreJugador = CadenaFija("Ana", 9);
@@ -42,7 +42,7 @@ class VentanaHistoricTest : public testing::Test {
     void TearDown() override {
         ventana.reset();
         form.reset();
-        PonServiciosPlataforma({});
+        PonEscritorio({});
         RestauraValoresIniciales();
     }
     std::unique_ptr<FormHistoric> form;
@@ -116,10 +116,9 @@ TEST_F(VentanaHistoricTest, LaManoSobreLoQueSePulsa) {
 TEST(VentanaHistoricModal, LaOrdenDiezLoAbreYLaFlechaLoCierra) {
     RestauraValoresIniciales();
     InstalaServicios();
-    InstalaServiciosHistorico();
     ServiciosPlataforma s;
     s.Sonido = [](int16_t clip) { sonidos.push_back(clip); };
-    PonServiciosPlataforma(s);
+    PonEscritorio(s);
     sonidos.clear();
     bool visto = false;
     QTimer::singleShot(100, [&visto] {
@@ -134,7 +133,7 @@ TEST(VentanaHistoricModal, LaOrdenDiezLoAbreYLaFlechaLoCierra) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(sonidos, std::vector<int16_t>{4});
     EXPECT_EQ(BotonPulsado[10], FALSO);
-    PonServiciosPlataforma({});
+    PonEscritorio({});
     RestauraValoresIniciales();
 }
 

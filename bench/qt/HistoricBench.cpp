@@ -25,13 +25,15 @@ class Libro {
         LlenaTablas();
         AnchoPantalla = 1920;
         AltoPantalla = 1080;
-        PonRotulador(&rotulador_);
-        InstalaServiciosHistorico();
+        ServiciosPlataforma s;
+        s.Texto = &rotulador_;
+        s.Historico = ServiciosHistoricoQt();
+        InstalaPlataforma(s);
         LlenaHistoricoDeBanco(REGISTROS);
     }
     Libro(const Libro &) = delete;
     Libro &operator=(const Libro &) = delete;
-    ~Libro() { PonRotulador(nullptr); }
+    ~Libro() { InstalaPlataforma(ServiciosPlataforma{}); }
 
   private:
     RotuladorQt rotulador_;

@@ -7,10 +7,10 @@
 #include "board/Render.h"
 #include "board/Trayecto.h"
 #include "core/Arriba.h"
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
-#include "services/Plataforma.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;

@@ -3,17 +3,11 @@
 
 #include <algorithm>
 
+#include "core/Plataforma.h"
 #include "raster/Superficie.h"
 
-namespace {
-CargadorImagen cargador = nullptr;
-}
-
-void PonCargadorImagen(CargadorImagen c) {
-    cargador = c;
-}
-
 CargaDeImagen CargaImagen(const std::string &fichero, Superficie &destino) {
+    const auto cargador = Plataforma().CargaImagen;
     if (cargador == nullptr) {
         DejaImagenEnBlanco(destino);
         return {};

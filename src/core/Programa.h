@@ -37,18 +37,14 @@ struct CargaDeImagen {
 // at the file's own size, or, for a picture too large to hold whole, at a
 // reduced size in its proportions that still covers the largest picture any
 // zoom makes of it. Callers scale the whole surface to the zoomed size of
-// Ancho x Alto. Without a loader every file is Inexistente.
-using CargadorImagen = CargaDeImagen (*)(const std::string &fichero, Superficie &destino);
-void PonCargadorImagen(CargadorImagen c);
+// Ancho x Alto. Without the platform's loader every file is Inexistente.
 CargaDeImagen CargaImagen(const std::string &fichero, Superficie &destino);
 
 // The surface as the picture of a file that was not read: white 320 x 240.
 void DejaImagenEnBlanco(Superficie &destino);
 
-// The program's folder, where the sample pictures stand: the platform sets
-// it to the executable's folder at start. Kept without a closing "/" unless
-// it is the root.
-void PonDirectorioPrograma(const std::string &carpeta);
+// The program's folder, where the sample pictures stand, as the platform
+// gives it: without a closing "/" unless it is the root.
 const std::string &DirectorioPrograma();
 
 // The program's folder for an executable in `carpetaEjecutable`: the

@@ -1,5 +1,7 @@
 #include "core/PuzzGbl.h"
 
+#include "core/Plataforma.h"
+
 #include <cstdio>
 
 using namespace PuzzGbl;
@@ -163,5 +165,6 @@ void RestauraValoresIniciales() {
     LlenaTablas();
     VueltasPorSegundo = 0.0;
     teselari.Inicializa();
+    InstalaPlataforma(ServiciosPlataforma{});
     (void)iniciado;
 }

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/PuzzGbl.h"
 
@@ -20,8 +21,6 @@ const char *const FicherosPrograma[NRO_FICHEROS_PROGRAMA] = {
     "CATEDRAL.JPG", "FUENTE.JPG",  "PALMERAS.JPG", "PUERTA.JPG", "TRANVIA.JPG"};
 
 namespace {
-
-std::string directorioPrograma;
 
 std::string ConBarra(std::string carpeta) {
     if (carpeta.empty() || carpeta.back() != '/') {
@@ -63,15 +62,8 @@ void CopiaFicherosPrograma(const std::string &origen, const std::string &destino
 
 } // namespace
 
-void PonDirectorioPrograma(const std::string &carpeta) {
-    directorioPrograma = carpeta;
-    while (directorioPrograma.size() > 1 && directorioPrograma.back() == '/') {
-        directorioPrograma.pop_back();
-    }
-}
-
 const std::string &DirectorioPrograma() {
-    return directorioPrograma;
+    return Plataforma().DirectorioPrograma;
 }
 
 std::string CarpetaDelPrograma(const std::string &carpetaEjecutable,

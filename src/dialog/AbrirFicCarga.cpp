@@ -1,4 +1,5 @@
 // AbrirFic's opening: the snapshot, the folder, the panels drawn.
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
@@ -33,7 +34,7 @@ void FormAbrirFic::Form_Load() {
     BuscaImagenEnLista();
 
     ImprimeTexto3D(Pic_ImagenPuzz, 83, 6, "Imagen del puzzle");
-    const auto hay = ServiciosDelDialogo().HayImagenPortapapeles;
+    const auto hay = Plataforma().Dialogo.HayImagenPortapapeles;
     Bot_Portapapeles.Enabled = hay != nullptr && hay();
 
     ImprimeTexto3D(Pic_NroPiezas, 43, 5, "Número de piezas");

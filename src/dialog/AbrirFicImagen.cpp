@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
@@ -220,7 +221,7 @@ void FormAbrirFic::File1_MouseMove(int16_t, int16_t, float, float) {
 }
 
 void FormAbrirFic::Bot_Portapapeles_Click() {
-    const ServiciosDialogo &s = ServiciosDelDialogo();
+    const ServiciosDialogo &s = Plataforma().Dialogo;
     if (s.HayImagenPortapapeles == nullptr || s.TomaImagenPortapapeles == nullptr ||
         !s.HayImagenPortapapeles()) {
         return;

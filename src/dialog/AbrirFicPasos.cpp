@@ -3,6 +3,7 @@
 // the zoom's limit check and rebuild.
 #include <cmath>
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
@@ -11,7 +12,6 @@
 #include "raster/Raster.h"
 #include "services/Esperas.h"
 #include "services/Mensajes.h"
-#include "services/Plataforma.h"
 #include "services/Sonidos.h"
 
 using namespace PuzzGbl;

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/PuzzGbl.h"
 #include "dialog/ServiciosDialogo.h"
@@ -67,8 +68,8 @@ void Temas(SuperficieDialogo &s, int16_t queEs, int16_t f1 = TEMA_OTROS) {
 FormAbrirFic::FormAbrirFic() {
     ColocaControles();
     ColocaPaginaBotones();
-    if (ServiciosDelDialogo().CargaTira != nullptr) {
-        ServiciosDelDialogo().CargaTira(Pic_BmpVario);
+    if (const auto carga = Plataforma().Dialogo.CargaTira; carga != nullptr) {
+        carga(Pic_BmpVario);
     }
     // The lists start on the process's current folder, as the platform's
     // lists do; the opening then moves them.

@@ -4,24 +4,13 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "dialog/FormAbrirFic.h"
 
-namespace {
-ServiciosDialogo servicios;
-}
-
-void PonServiciosDialogo(const ServiciosDialogo &s) {
-    servicios = s;
-}
-
-const ServiciosDialogo &ServiciosDelDialogo() {
-    return servicios;
-}
-
 std::vector<std::string> UnidadesDisponibles() {
-    if (servicios.Unidades != nullptr) {
-        return servicios.Unidades();
+    if (const auto unidades = Plataforma().Dialogo.Unidades; unidades != nullptr) {
+        return unidades();
     }
     // Without the platform's list: the root and the volume of the home
     // folder, when that is another one.
@@ -36,10 +25,11 @@ std::vector<std::string> UnidadesDisponibles() {
 }
 
 void AbreDialogoAbrirFic() {
-    if (servicios.MuestraModal == nullptr) {
+    const auto muestra = Plataforma().Dialogo.MuestraModal;
+    if (muestra == nullptr) {
         return;
     }
     FormAbrirFic AbrirFic;
     AbrirFic.Form_Load();
-    servicios.MuestraModal(AbrirFic);
+    muestra(AbrirFic);
 }

@@ -7,6 +7,7 @@
 #include <ctime>
 
 #include "core/EscrituraSegura.h"
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "history/CamposHistorico.h"
 #include "history/Historico.h"
@@ -26,8 +27,6 @@ FechaHora FechaHoraLocal() {
     return {fecha, hora};
 }
 
-RelojHistorico reloj = FechaHoraLocal;
-
 // A string of the game as a field of the file: a double quote or a line
 // break would end the field or the record early, and a NUL (a name never
 // typed) is no text at all.
@@ -43,7 +42,8 @@ std::string SinSeparadores(std::string texto) {
 }
 
 RegistroHistorico RegistroDeLaPartida() {
-    const FechaHora momento = reloj();
+    const auto calendario = Plataforma().Calendario;
+    const FechaHora momento = calendario != nullptr ? calendario() : FechaHoraLocal();
     RegistroHistorico r;
     r.Fecha = CadenaFija(momento.Fecha, 10);
     r.Hora = CadenaFija(momento.Hora, 8);
@@ -118,10 +118,6 @@ bool EscribeLineas(const std::string &lineas) {
 }
 
 } // namespace
-
-void PonRelojHistorico(RelojHistorico r) {
-    reloj = r != nullptr ? r : FechaHoraLocal;
-}
 
 void AnadeHistorico() {
     const RegistroHistorico r = RegistroDeLaPartida();

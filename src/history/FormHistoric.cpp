@@ -1,6 +1,7 @@
 // Historic: its controls, its loading, the first page and a record's page.
 #include "history/FormHistoric.h"
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "history/Formatos.h"
 #include "history/ServiciosHistorico.h"
@@ -69,8 +70,8 @@ FormHistoric::FormHistoric() : Formulario(ANCHO, ALTO, COLOR_TAPA) {
     Formulario.ForeColor = COLOR_NEGRO;
     Superficie pagina(ANCHO_PAGINA, ALTO, COLOR_BLANCO);
     Superficie etiquetas(ANCHO_PARCHE, ALTO_PARCHE, COLOR_BLANCO);
-    if (ServiciosDelHistorico().CargaImagenes != nullptr) {
-        ServiciosDelHistorico().CargaImagenes(pagina, etiquetas);
+    if (const auto carga = Plataforma().Historico.CargaImagenes; carga != nullptr) {
+        carga(pagina, etiquetas);
     }
     Formulario.AsignaImagen(pagina);
     for (Superficie &tapa : Pic_Tapa) {

@@ -38,12 +38,3 @@ std::string TextoErrorHis(int16_t numero, const std::string &unidad);
 // The message that tells it, with the lines its text takes in the message's
 // label (two at least for the missing file).
 Mensaje MensajeErrorHis(int16_t numero, const std::string &unidad);
-
-// The date and the time of day of a record: "dd/mm/yyyy" and "hh:mm:ss".
-struct FechaHora {
-    std::string Fecha;
-    std::string Hora;
-};
-using RelojHistorico = FechaHora (*)();
-// The clock of the records (tests fix it); nullptr: the local time.
-void PonRelojHistorico(RelojHistorico reloj);

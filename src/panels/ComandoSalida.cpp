@@ -1,10 +1,10 @@
 // Command 11: the question, then the game is kept and the program ends.
 #include "core/Arriba.h"
 #include "core/Cronometro.h"
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "panels/Ordenes.h"
 #include "services/Mensajes.h"
-#include "services/Plataforma.h"
 
 using namespace PuzzGbl;
 

@@ -1,5 +1,4 @@
 #include "qt/Arranque.h"
-#include "qt/ImagenQt.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -10,12 +9,15 @@
 #include <memory>
 
 #include "core/Cronometro.h"
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/PuzzGbl.h"
+#include "history/Historico.h"
 #include "panels/Paneles.h"
 #include "qt/CargaImagenQt.h"
 #include "qt/Cursores.h"
 #include "qt/FormMensajes.h"
+#include "qt/ImagenQt.h"
 #include "qt/Manejadores.h"
 #include "qt/ReproductorSonidos.h"
 #include "qt/RotuladorQt.h"
@@ -27,7 +29,6 @@
 #include "raster/Region.h"
 #include "services/Ayuda.h"
 #include "services/Esperas.h"
-#include "services/Plataforma.h"
 #include "services/Sonidos.h"
 #include "session/Enlaces.h"
 #include "session/Sesion.h"
@@ -102,7 +103,6 @@ bool ProgramaTerminado() {
 void InstalaServicios() {
     EnlazaArriba();
     static RotuladorQt rotulador;
-    PonRotulador(&rotulador);
     static ReproductorSonidos *reproductor = new ReproductorSonidos(qApp);
     PonReproductor(reproductor);
     ServiciosPlataforma s;
@@ -110,10 +110,19 @@ void InstalaServicios() {
     s.Sonido = ReproduceClip;
     s.Eventos = Eventos;
     s.Termina = Termina;
-    PonServiciosPlataforma(s);
-    PonCargadorImagen(CargaImagenQt);
-    PonMostradorAyuda(MuestraVentanaAyuda);
-    InstalaServiciosDialogo();
+    s.MuestraAyuda = MuestraVentanaAyuda;
+    s.CargaImagen = CargaImagenQt;
+    s.Texto = &rotulador;
+    // The program's folder is where the sample pictures stand: the
+    // installed game's data folder, or in the build tree the executable's.
+    s.DirectorioPrograma =
+        carpetaFija.isEmpty()
+            ? CarpetaDelPrograma(QCoreApplication::applicationDirPath().toStdString(),
+                                 TESELARI_DATOS_INSTALADOS)
+            : carpetaFija.toStdString();
+    s.Dialogo = ServiciosDialogoQt();
+    s.Historico = ServiciosHistoricoQt();
+    InstalaPlataforma(s);
 }
 
 VentanaTeselari &Form_Load() {
@@ -138,14 +147,7 @@ VentanaTeselari &Form_Load() {
         careta = std::make_unique<VentanaCareta>();
         MuestraCareta(*careta);
     }
-    // The program's folder is where the sample pictures stand: the
-    // installed game's data folder, or in the build tree the executable's;
-    // the working folder is that one when it can be written.
-    PonDirectorioPrograma(
-        carpetaFija.isEmpty()
-            ? CarpetaDelPrograma(QCoreApplication::applicationDirPath().toStdString(),
-                                 TESELARI_DATOS_INSTALADOS)
-            : carpetaFija.toStdString());
+    // The working folder is the program's when it can be written.
     DirectorioTrabajo = DirectorioPrograma();
     CompruebaSiCD();
     ModoResolver = FALSO;
@@ -162,7 +164,7 @@ VentanaTeselari &Form_Load() {
     CargaRecurso(RutaTiraBotones(), teselari.Pic_BmpBoton);
     CargaRecurso(RutaCaraCronometro(), teselari.Pic_Cronome);
     // The history read, its book installed; its message has the strip now.
-    PreparaHistorico();
+    LeeHistorico();
 
     ventana = new VentanaTeselari();
     ConectaManejadores(*ventana);

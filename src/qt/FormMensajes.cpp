@@ -1,5 +1,4 @@
 #include "qt/FormMensajes.h"
-#include "qt/ImagenQt.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -12,6 +11,7 @@
 
 #include "core/PuzzGbl.h"
 #include "qt/Cursores.h"
+#include "qt/ImagenQt.h"
 #include "qt/RotuladorQt.h"
 #include "qt/VistaSuperficie.h"
 #include "raster/Raster.h"

@@ -1,6 +1,6 @@
 #include "qt/RotuladorQt.h"
-#include "qt/ImagenQt.h"
 
+#include "qt/ImagenQt.h"
 #include <QColor>
 #include <QFontDatabase>
 #include <QFontMetricsF>

@@ -65,12 +65,12 @@ std::vector<std::string> Unidades() {
 
 } // namespace
 
-void InstalaServiciosDialogo() {
+ServiciosDialogo ServiciosDialogoQt() {
     ServiciosDialogo s;
     s.MuestraModal = MuestraModal;
     s.CargaTira = CargaTira;
     s.HayImagenPortapapeles = HayImagenPortapapeles;
     s.TomaImagenPortapapeles = TomaImagenPortapapeles;
     s.Unidades = Unidades;
-    PonServiciosDialogo(s);
+    return s;
 }

@@ -18,6 +18,8 @@
 #include <string>
 #include <vector>
 
+#include "core/Plataforma.h"
+
 class FormAbrirFic;
 class QComboBox;
 class QListWidget;
@@ -84,4 +86,4 @@ class VentanaAbrirFic : public QDialog {
 
 // The platform's part of the dialog: shown modally, its strip of small
 // images, the clipboard's bitmap and the mounted volumes.
-void InstalaServiciosDialogo();
+ServiciosDialogo ServiciosDialogoQt();

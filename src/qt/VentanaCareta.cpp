@@ -1,5 +1,4 @@
 #include "qt/VentanaCareta.h"
-#include "qt/ImagenQt.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -7,6 +6,7 @@
 #include <QTimer>
 
 #include "qt/Arranque.h"
+#include "qt/ImagenQt.h"
 #include "qt/VistaSuperficie.h"
 
 VentanaCareta::VentanaCareta(QWidget *padre)

@@ -1,5 +1,4 @@
 #include "qt/VentanaHistoric.h"
-#include "qt/ImagenQt.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -12,6 +11,7 @@
 #include "history/ServiciosHistorico.h"
 #include "qt/Arranque.h"
 #include "qt/Cursores.h"
+#include "qt/ImagenQt.h"
 #include "qt/RotuladorQt.h"
 #include "qt/VistaSuperficie.h"
 #include "services/Ayuda.h"
@@ -120,14 +120,9 @@ void CargaImagenes(Superficie &pagina, Superficie &etiquetas) {
 
 } // namespace
 
-void InstalaServiciosHistorico() {
+ServiciosHistorico ServiciosHistoricoQt() {
     ServiciosHistorico s;
     s.MuestraModal = MuestraModal;
     s.CargaImagenes = CargaImagenes;
-    PonServiciosHistorico(s);
-}
-
-void PreparaHistorico() {
-    InstalaServiciosHistorico();
-    LeeHistorico();
+    return s;
 }

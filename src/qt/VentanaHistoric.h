@@ -15,6 +15,8 @@
 #include <array>
 #include <functional>
 
+#include "core/Plataforma.h"
+
 class FormHistoric;
 class QLineEdit;
 class VistaSuperficie;
@@ -51,8 +53,4 @@ class VentanaHistoric : public QDialog {
 
 // The platform's part of the book: shown modally, its two bitmaps from the
 // resources.
-void InstalaServiciosHistorico();
-
-// Step 11 of the start: the book's window installed and TESEL32.HIS read
-// into Historico.
-void PreparaHistorico();
+ServiciosHistorico ServiciosHistoricoQt();

@@ -2,9 +2,9 @@
 
 #include <array>
 
-namespace {
+#include "core/Plataforma.h"
 
-MostradorAyuda mostrador = nullptr;
+namespace {
 
 struct Tema {
     int16_t numero;
@@ -49,13 +49,9 @@ const Tema *BuscaTema(int16_t numero) {
 } // namespace
 
 void MuestraAyuda(int16_t tema) {
-    if (mostrador != nullptr) {
+    if (const auto mostrador = Plataforma().MuestraAyuda; mostrador != nullptr) {
         mostrador(tema);
     }
-}
-
-void PonMostradorAyuda(MostradorAyuda m) {
-    mostrador = m;
 }
 
 std::string DestinoAyuda(int16_t tema) {

@@ -38,10 +38,6 @@ constexpr int16_t PanelPrueba = 1603;      // F1 on the attraction test panel
 // (it isn't modal).
 void MuestraAyuda(int16_t tema);
 
-// What MuestraAyuda calls; nullptr (the default) shows nothing.
-using MostradorAyuda = void (*)(int16_t tema);
-void PonMostradorAyuda(MostradorAyuda mostrador);
-
 // Where a topic lies in the book: the page and, for a topic, its anchor,
 // e.g. "personalizar.html#t1231". The contents page for 0 and for any
 // number the book doesn't know.

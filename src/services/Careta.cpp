@@ -1,9 +1,9 @@
 #include "services/Careta.h"
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "raster/Raster.h"
 #include "services/Esperas.h"
-#include "services/Plataforma.h"
 
 using namespace PuzzGbl;
 

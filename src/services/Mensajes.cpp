@@ -1,8 +1,8 @@
 #include "services/Mensajes.h"
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "raster/Superficie.h"
-#include "services/Plataforma.h"
 
 using namespace PuzzGbl;
 

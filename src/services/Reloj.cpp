@@ -1,5 +1,7 @@
 #include "services/Reloj.h"
 
+#include "core/Plataforma.h"
+
 #include <chrono>
 #include <cmath>
 #include <ctime>
@@ -21,16 +23,11 @@ double RelojDeLaMaquina() {
     return std::fmod(hora + pasado, SEGUNDOS_DIA);
 }
 
-double (*relojActual)() = RelojDeLaMaquina;
-
 } // namespace
 
 double Timer() {
-    return relojActual();
-}
-
-void PonReloj(double (*reloj)()) {
-    relojActual = reloj != nullptr ? reloj : RelojDeLaMaquina;
+    const auto reloj = Plataforma().Reloj;
+    return reloj != nullptr ? reloj() : RelojDeLaMaquina();
 }
 
 Cronometraje::Cronometraje() : inicio_(Timer()), anterior_(inicio_) {}

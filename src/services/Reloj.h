@@ -9,9 +9,6 @@
 // Seconds since midnight, 0 <= t < 86400.
 double Timer();
 
-// Replaces the clock (tests); nullptr puts the machine's clock back.
-void PonReloj(double (*reloj)());
-
 constexpr double SEGUNDOS_DIA = 86400.0;
 
 // Follows the clock from a start and tells the seconds gone by, also when

@@ -2,8 +2,8 @@
 
 #include <cctype>
 
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
-#include "services/Plataforma.h"
 
 using namespace PuzzGbl;
 

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <vector>
 
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/PuzzGbl.h"
 #include "raster/Superficie.h"
@@ -54,8 +55,6 @@ const std::string &PreparaEntorno() {
         setenv("XDG_DATA_HOME", (c + "/datos").c_str(), 1);
         Marca(c + "/" + IMAGEN_SEMILLAS);
         Marca(c + "/" + FicherosPrograma[2]); // the first sample picture
-        PonDirectorioPrograma(c);
-        PonCargadorImagen(CargadorFijo);
         return c;
     }();
     // Registered once the name is built, so it is removed before the name.
@@ -73,6 +72,10 @@ void EstadoLimpio() {
     VueltasPorSegundo = 0;
     teselari.Pic_BotonesSiempre.Move(1024 - 16 - 62, 0, 62, 667);
     DirectorioTrabajo = PreparaEntorno();
+    ServiciosPlataforma s;
+    s.DirectorioPrograma = DirectorioTrabajo;
+    s.CargaImagen = CargadorFijo;
+    InstalaPlataforma(s);
     // The picture of the seeds is named relative to the working folder.
     std::filesystem::current_path(DirectorioTrabajo);
 }

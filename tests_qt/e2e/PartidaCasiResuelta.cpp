@@ -15,6 +15,7 @@
 #include <filesystem>
 #include <string>
 
+#include "core/Plataforma.h"
 #include "core/Programa.h"
 #include "core/PuzzGbl.h"
 #include "cutting/Corte.h"
@@ -104,7 +105,9 @@ int main(int argc, char **argv) {
     AltoPantalla = static_cast<int16_t>(std::atoi(argv[4]));
     VueltasPorSegundo = 0;
     LlenaTablas();
-    PonCargadorImagen(CargaImagenQt);
+    ServiciosPlataforma servicios;
+    servicios.CargaImagen = CargaImagenQt;
+    InstalaPlataforma(servicios);
     PonAjustes(carpeta, argv[2]);
     if (!CargaImagen(FicheroImagen, teselari.Pic_W).Leida()) {
         std::fprintf(stderr, "no se puede leer %s\n", FicheroImagen.c_str());
