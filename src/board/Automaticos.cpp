@@ -45,7 +45,8 @@ struct Anillos {
     bool bajando;   // filling the column, not the row
 
     void Avanza() {
-        const int32_t sy = Int(f * AltoPiezaTotal), sx = Int(f * AnchoPiezaTotal);
+        const int32_t sy = Int(f * static_cast<float>(AltoPiezaTotal)),
+                      sx = Int(f * static_cast<float>(AnchoPiezaTotal));
         if (bajando) {
             if (ty + sy <= ymax) {
                 ty = static_cast<int16_t>(ty + sy);

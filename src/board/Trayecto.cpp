@@ -31,10 +31,10 @@ void LlevaPiezaA(int32_t tx, int32_t ty) {
         }
         AuxColumna = static_cast<float>(q.X - dx);
         AuxFila = static_cast<float>(q.Y - dy);
-        if (Signo(AuxColumna - tx) != Signo(dx)) {
+        if (Signo(AuxColumna - static_cast<float>(tx)) != Signo(dx)) {
             AuxColumna = static_cast<float>(tx);
         }
-        if (Signo(AuxFila - ty) != Signo(dy)) {
+        if (Signo(AuxFila - static_cast<float>(ty)) != Signo(dy)) {
             AuxFila = static_cast<float>(ty);
         }
         MuevePieza(AuxColumna, AuxFila);

@@ -77,9 +77,9 @@ struct ServiciosPlataforma {
     // Fonts, measuring and drawing text into a surface.
     Rotulador *Texto = nullptr;
     // The program's folder, where the sample pictures stand.
-    std::string DirectorioPrograma;
-    ServiciosDialogo Dialogo;
-    ServiciosHistorico Historico;
+    std::string DirectorioPrograma{};
+    ServiciosDialogo Dialogo{};
+    ServiciosHistorico Historico{};
 };
 
 // Installs the services whole (a copy is kept).

@@ -93,8 +93,9 @@ void Pic_Cronome_MouseMove(int16_t boton, int16_t, float x, float y) {
     if (boton == 1 && ArrastrandoPanel != FALSO) {
         const FormTeselari &f = teselari;
         const Superficie &panel = f.Pic_Cronome;
-        MueveMarcoPanel(Redondea(f.BarraHor.Value() + panel.Left + x - AnteriorX),
-                        Redondea(f.BarraVer.Value() + panel.Top + y - AnteriorY));
+        MueveMarcoPanel(
+            Redondea(static_cast<float>(f.BarraHor.Value() + panel.Left) + x - AnteriorX),
+            Redondea(static_cast<float>(f.BarraVer.Value() + panel.Top) + y - AnteriorY));
         return;
     }
     EligeCursor(x, y);

@@ -22,8 +22,8 @@ void Pic_Muestra_MouseMove(int16_t boton, int16_t, float x, float y) {
     Superficie &modelo = teselari.Pic_Muestra;
     if (boton == 1) {
         // The model itself stays; only its frame follows the mouse.
-        MueveMarcoPanel(Redondea(modelo.Left + x - AnteriorX),
-                        Redondea(modelo.Top + y - AnteriorY));
+        MueveMarcoPanel(Redondea(static_cast<float>(modelo.Left) + x - AnteriorX),
+                        Redondea(static_cast<float>(modelo.Top) + y - AnteriorY));
     }
     if (modelo.MousePointer == PUNTERO_NORMAL && boton == 0) {
         PonCursor(modelo, "ManoBlanca");

@@ -105,12 +105,12 @@ void DibujaBotonesDerecho(float x, float y) {
         alto = ((n + 1) / 2) * PASO_BOTON + 3;
         columnas = 2;
     }
-    if (AltoUtil() < alto + y) {
+    if (static_cast<float>(AltoUtil() - alto) < y) {
         y = static_cast<float>(AltoUtil() - alto);
     }
     const int32_t ancho = columnas * PASO_BOTON + 3;
     const int32_t ancho_util = AnchoPantalla - f.BarraVer.Width;
-    if (ancho_util < ancho + x) {
+    if (static_cast<float>(ancho_util - ancho) < x) {
         x = static_cast<float>(ancho_util - ancho);
     }
 

@@ -73,7 +73,8 @@ void Normaliza(std::vector<double> &s, double pico) {
 
 // A soft buzz: the first harmonics, falling as 1/k^2, with a slow tremolo.
 void Zumbido(std::vector<double> &s, int fs, double desde, double hasta, double f) {
-    const int a = static_cast<int>(desde * fs), b = std::min<int>(hasta * fs, s.size());
+    const int a = static_cast<int>(desde * fs),
+              b = std::min(static_cast<int>(hasta * fs), static_cast<int>(s.size()));
     for (int i = a; i < b; ++i) {
         const double t = static_cast<double>(i - a) / fs, largo = hasta - desde;
         const double env = std::min({1.0, t / 0.03, (largo - t) / 0.12});
@@ -221,10 +222,10 @@ QByteArray GeneraWav(int clip) {
     const MedidaClip m = MedidaDeClip(clip);
     // Clips 10, 11 and 12 are one sound.
     const QByteArray datos = MuestrasEnOchoBits(SintetizaClip(clip >= 10 ? 10 : clip));
-    const uint32_t relleno = datos.size() % 2; // chunks end on even offsets
+    const auto relleno = static_cast<uint32_t>(datos.size() % 2); // chunks end on even offsets
     QByteArray w;
     w.append("RIFF");
-    Anade32(w, 4 + 24 + 8 + datos.size() + relleno);
+    Anade32(w, static_cast<uint32_t>(4 + 24 + 8 + datos.size() + relleno));
     w.append("WAVE");
     w.append("fmt ");
     Anade32(w, 16);
@@ -235,7 +236,7 @@ QByteArray GeneraWav(int clip) {
     Anade16(w, 1);            // block
     Anade16(w, 8);            // bits
     w.append("data");
-    Anade32(w, datos.size());
+    Anade32(w, static_cast<uint32_t>(datos.size()));
     w.append(datos);
     if (relleno != 0) {
         w.append(char(128));

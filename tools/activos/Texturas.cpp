@@ -284,5 +284,5 @@ QColor ColorVivo(uint32_t semilla, int indice) {
     const double h = ValorReticula(indice, 17, semilla);
     const double s = 0.65 + 0.35 * ValorReticula(indice, 29, semilla);
     const double v = 0.7 + 0.3 * ValorReticula(indice, 31, semilla);
-    return QColor::fromHsvF(h, s, v);
+    return QColor::fromHsvF(static_cast<float>(h), static_cast<float>(s), static_cast<float>(v));
 }
