@@ -92,5 +92,3 @@ class FormHistoric {
     void AbreSeccionPorPestana(int16_t seccion);
 };
 
-// Help topic of the book.
-constexpr int16_t TEMA_HISTORICO = 1250;

@@ -95,7 +95,7 @@ void VentanaHistoric::Sincroniza() {
 
 void VentanaHistoric::keyPressEvent(QKeyEvent *evento) {
     if (evento->key() == Qt::Key_F1) {
-        MuestraAyuda(TEMA_HISTORICO);
+        MuestraAyuda(TemasAyuda::Historico);
         return;
     }
     // Only the return arrow and the desktop's close button leave the book.
