@@ -158,6 +158,7 @@ const CasoDerecho casos_derecho[] = {
     {"AbajoIzquierda", 768, 0, 700, 0, 111, 61, 641},
     {"AbajoDerecha", 768, 1020, 760, 947, 111, 61, 641},
     {"JustoCabe", 768, 947, 111, 947, 111, 61, 641},
+    {"UnoDeMas", 768, 948, 112, 947, 111, 61, 641},
     {"Medio", 768, 400, 50, 400, 50, 61, 641},
     {"DosColumnasAbajoDerecha", 600, 990, 580, 889, 233, 119, 351},
     {"DosColumnasArriba", 600, 10, 20, 10, 20, 119, 351},
@@ -222,7 +223,7 @@ class AspectoBoton : public Paneles, public ::testing::WithParamInterface<int> {
 TEST_P(AspectoBoton, PulsadoPierdeLaSombraYSeDesplaza) {
     const int16_t i = static_cast<int16_t>(GetParam());
     Superficie &c = teselari.Pic_BotonSiempre[i];
-    const size_t semillas = SemillasPrueba(i).size();
+    const size_t semillas = SemillasSombra()[static_cast<size_t>(i)].size();
     const int sombra = static_cast<int>(9 * semillas);
 
     BotonPulsado[i] = FALSO;
@@ -239,7 +240,7 @@ TEST_P(AspectoBoton, PulsadoPierdeLaSombraYSeDesplaza) {
     EXPECT_EQ(CuentaColor(c, SOMBRA_PRUEBA), 0);
     EXPECT_EQ(CuentaColor(c, CuerpoPrueba(i)), 48 * 48 - sombra);
     EXPECT_EQ(CuentaColor(c, GRIS_PANEL), 56 * 56 - (48 * 48 - sombra));
-    for (const auto &[x, y] : SemillasPrueba(i)) {
+    for (const auto &[x, y] : SemillasSombra()[static_cast<size_t>(i)]) {
         EXPECT_EQ(c.Point(x, y), GRIS_PANEL) << x << "," << y;
     }
     EXPECT_EQ(c.Point(5, 5), CuerpoPrueba(i));

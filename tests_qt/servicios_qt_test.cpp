@@ -75,50 +75,6 @@ TEST(RotuladorQt, DibujaEnLaSuperficieSoloDondeVaElTexto) {
     PonServicio(&ServiciosPlataforma::Texto, nullptr);
 }
 
-TEST(CargaImagenQt, LeeUnaImagenConSusPixeles) {
-    QTemporaryDir carpeta;
-    QImage imagen(30, 20, QImage::Format_RGB32);
-    imagen.fill(QColor(10, 20, 30));
-    imagen.setPixel(29, 19, qRgb(200, 100, 50));
-    const QString ruta = carpeta.filePath(QStringLiteral("prueba.bmp"));
-    ASSERT_TRUE(imagen.save(ruta, "BMP"));
-    Superficie s(5, 5);
-    ASSERT_TRUE(CargaImagenQt(ruta.toStdString(), s).Leida());
-    EXPECT_EQ(s.Ancho(), 30);
-    EXPECT_EQ(s.Alto(), 20);
-    EXPECT_EQ(s.Point(0, 0), RGB(10, 20, 30));
-    EXPECT_EQ(s.Point(29, 19), RGB(200, 100, 50));
-    // The same picture under another name is sniffed by its content.
-    const QString rle = carpeta.filePath(QStringLiteral("prueba.rle"));
-    ASSERT_TRUE(QFile::copy(ruta, rle));
-    EXPECT_TRUE(CargaImagenQt(rle.toStdString(), s).Leida());
-}
-
-// A cut bitmap or a file that is no picture reads as a blank 320 x 240; a
-// missing one too, told apart.
-TEST(CargaImagenQt, UnBmpCortadoYUnFicheroQueNoEsImagenQuedanEnBlanco) {
-    QTemporaryDir carpeta;
-    QImage imagen(64, 64, QImage::Format_RGB32);
-    imagen.fill(Qt::red);
-    const QString ruta = carpeta.filePath(QStringLiteral("cortado.bmp"));
-    ASSERT_TRUE(imagen.save(ruta, "BMP"));
-    QFile f(ruta);
-    ASSERT_TRUE(f.resize(f.size() - 300));
-    Superficie s(5, 5);
-    EXPECT_EQ(CargaImagenQt(ruta.toStdString(), s).Estado, EstadoCarga::EnBlanco);
-    EXPECT_EQ(s.Ancho(), 320);
-    EXPECT_EQ(s.Alto(), 240);
-    EXPECT_EQ(s.Point(10, 230), COLOR_BLANCO);
-    const QString texto = carpeta.filePath(QStringLiteral("nada.jpg"));
-    QFile t(texto);
-    ASSERT_TRUE(t.open(QIODevice::WriteOnly));
-    t.write("no soy una imagen");
-    t.close();
-    EXPECT_EQ(CargaImagenQt(texto.toStdString(), s).Estado, EstadoCarga::EnBlanco);
-    EXPECT_EQ(CargaImagenQt(carpeta.filePath("falta.bmp").toStdString(), s).Estado,
-              EstadoCarga::Inexistente);
-}
-
 TEST(ReproductorSonidos, UnClipNuevoCortaElAnteriorYNadaEspera) {
     ReproductorSonidos r;
     EXPECT_EQ(r.Ultimo(), 0);
