@@ -1,4 +1,5 @@
 // AbrirFic's opening: the snapshot, the folder, the panels drawn.
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
@@ -7,7 +8,6 @@
 #include "dialog/ServiciosDialogo.h"
 #include "panels/Paneles.h"
 #include "raster/Raster.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 

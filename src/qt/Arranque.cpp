@@ -8,6 +8,7 @@
 #include <cstring>
 #include <memory>
 
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "core/Sesion.h"
 #include "panels/Cronometro.h"
@@ -27,7 +28,6 @@
 #include "services/Ayuda.h"
 #include "services/Esperas.h"
 #include "services/Plataforma.h"
-#include "services/Sonidos.h"
 
 #ifndef TESELARI_DATOS_INSTALADOS
 #define TESELARI_DATOS_INSTALADOS ""
@@ -188,7 +188,7 @@ VentanaTeselari &Form_Load() {
     // The window covers the screen.
     ventana->MuestraPantallaCompleta();
     // The chronometer left of the always-visible panel.
-    Superficie &cronome = teselari.Pic_Cronome;
+    CuadroImagen &cronome = teselari.Pic_Cronome;
     cronome.Move(teselari.Pic_BotonesSiempre.Left - cronome.Ancho(), 0);
     cronome.Visible = Cronometro < 2;
     // The clock counts from the time restored; Timer1 ticks from now on.

@@ -30,9 +30,6 @@ VentanaTeselari::VentanaTeselari(QWidget *padre)
     Pic_Cuadrito = new VistaSuperficie(f.Pic_Cuadrito, this);
     Pic_BotonesSiempre = new VistaSuperficie(f.Pic_BotonesSiempre, this);
     Pic_BSInfo = new VistaSuperficie(f.Pic_BSInfo, Pic_BotonesSiempre);
-    // The count is framed: the sunken frame covers its outer two pixels, and
-    // its text is centred in the width within.
-    Pic_BSInfo->PonBorde(2);
     Pic_Cronome = new VistaSuperficie(f.Pic_Cronome, this);
     Pic_BotonesDerecho = new VistaSuperficie(f.Pic_BotonesDerecho, this);
     for (int i = 1; i <= 11; ++i) {
