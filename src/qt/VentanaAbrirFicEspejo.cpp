@@ -9,6 +9,7 @@
 
 #include "dialog/FormAbrirFic.h"
 #include "qt/Cursores.h"
+#include "qt/ReflejaControl.h"
 #include "qt/RotuladorQt.h"
 #include "qt/VentanaAbrirFic.h"
 #include "qt/VistaSuperficie.h"
@@ -57,14 +58,7 @@ void VentanaAbrirFic::ReflejaEtiqueta(QLabel *w, const EtiquetaDialogo &e) {
 
 // Place, size, visibility, tooltip and pointer.
 void VentanaAbrirFic::ReflejaComun(QWidget *w, const ControlConTamano &c) {
-    const int dentro = BordeDe(w->parentWidget());
-    const QRect lugar(c.Left + dentro, c.Top + dentro, c.Width, c.Height);
-    if (w->geometry() != lugar) {
-        w->setGeometry(lugar);
-    }
-    if (w->isHidden() == c.Visible) {
-        w->setVisible(c.Visible);
-    }
+    ReflejaLugar(w, c);
     const QString pista = QString::fromStdString(c.ToolTipText);
     if (w->toolTip() != pista) {
         w->setToolTip(pista);

@@ -9,6 +9,7 @@
 
 #include "core/PuzzGbl.h"
 #include "qt/Cursores.h"
+#include "qt/ReflejaControl.h"
 #include "qt/VistaSuperficie.h"
 #include "services/Ayuda.h"
 
@@ -70,10 +71,7 @@ void VentanaTeselari::Atiende(const std::function<void()> &manejador) {
 }
 
 void VentanaTeselari::SincronizaBarra(QScrollBar *barra, const BarraDesplazamiento &estado) {
-    const QRect lugar(estado.Left, estado.Top, estado.Width, estado.Height);
-    if (barra->geometry() != lugar) {
-        barra->setGeometry(lugar);
-    }
+    ReflejaLugar(barra, estado);
     if (barra->minimum() != estado.Min() || barra->maximum() != estado.Max()) {
         barra->setRange(estado.Min(), estado.Max());
     }
@@ -81,9 +79,6 @@ void VentanaTeselari::SincronizaBarra(QScrollBar *barra, const BarraDesplazamien
     barra->setSingleStep(estado.SmallChange);
     if (barra->value() != estado.Value()) {
         barra->setValue(estado.Value());
-    }
-    if (barra->isHidden() == estado.Visible) {
-        barra->setVisible(estado.Visible);
     }
 }
 
