@@ -58,7 +58,8 @@ void VentanaAbrirFic::ConectaSuperficies() {
                        std::function<void(int16_t, int16_t, float, float)> mover) {
         VistaSuperficie *v = VistaDe(s);
         v->AlSoltar = [this, &s, accion](int16_t, int16_t, float x, float y) {
-            if (x >= 0 && y >= 0 && x < s.Ancho() && y < s.Alto()) {
+            if (x >= 0 && y >= 0 && x < static_cast<float>(s.Ancho()) &&
+                y < static_cast<float>(s.Alto())) {
                 Atiende(accion);
             }
         };
