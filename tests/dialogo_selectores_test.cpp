@@ -256,7 +256,7 @@ TEST_F(Dialogo, LosSelectoresDeDosEstadosVanYVuelven) {
     struct Selector {
         int16_t &valor;
         void (FormAbrirFic::*pulsa)(int16_t, int16_t, float, float);
-        SuperficieDialogo &pic;
+        CuadroImagen &pic;
         const char *uno, *dos;
     };
     Selector sel[] = {

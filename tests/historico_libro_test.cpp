@@ -163,7 +163,7 @@ TEST_F(Libro, LasPestanasVisiblesSiguenALaSeccion) {
     FormHistoric f;
     f.Form_Load();
     auto visibles = [&f](int lado) {
-        const Superficie &t = f.Pic_Tapa[static_cast<size_t>(lado)];
+        const CuadroImagen &t = f.Pic_Tapa[static_cast<size_t>(lado)];
         std::vector<int> v;
         for (int s = 1; s <= 4; ++s) {
             const int arriba = 30 + 72 * (s - 1), abajo = arriba + 66;

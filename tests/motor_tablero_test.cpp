@@ -42,7 +42,7 @@ const CasoJuego JUEGOS[] = {{0, 3, 320, 240},   {1, 3, 330, 250},   {1, 8, 640, 
 // A fresh paint of the pile, bottom first, on a cleared board, down to the
 // position `hasta`.
 void PintaPilaDeNuevo(Superficie &destino, int32_t hasta = 1) {
-    Superficie &imagen = teselari.Pic_Imagen;
+    CuadroImagen &imagen = teselari.Pic_Imagen;
     imagen.QuitaImagen();
     imagen.Caja(-1, -1, AnchoPuzzle, AltoPuzzle, static_cast<Color>(ColorContraste));
     for (int32_t i = NroPiezas; i >= hasta; --i) {
@@ -77,7 +77,7 @@ TEST_P(Reparto, InvariantesDelBarajado) {
     const FormTeselari &f = teselari;
     ASSERT_EQ(static_cast<int32_t>(OrdenPiezas.size()), NroPiezas + 1);
     EXPECT_TRUE(EsPermutacion(OrdenPiezas));
-    const Superficie &panel = f.Pic_BotonesSiempre;
+    const CuadroImagen &panel = f.Pic_BotonesSiempre;
     const int32_t corregida = Redondea(f.BarraHor.Value() + panel.Left - AnchoPieza / 2.0);
     for (int32_t k = 1; k <= NroPiezas; ++k) {
         const Pieza &q = Piezas[k];

@@ -84,7 +84,7 @@ TEST_P(PanelSiempre, SeDisponeSegunElAltoDePantalla) {
     EXPECT_EQ(f.Pic_BSInfo.Top, c.alto - 26);
     size_t k = 0;
     for (int i = 1; i <= 11; ++i) {
-        const Superficie &b = f.Pic_BotonSiempre[i];
+        const CuadroImagen &b = f.Pic_BotonSiempre[i];
         EXPECT_EQ(b.Visible, BotonEnSiempre[i]) << "button " << i;
         if (BotonEnSiempre[i]) {
             ASSERT_LT(k, c.sitios.size());
@@ -97,7 +97,7 @@ TEST_P(PanelSiempre, SeDisponeSegunElAltoDePantalla) {
         }
     }
     // The frame: grey bottom and right, white top and left.
-    const Superficie &p = f.Pic_BotonesSiempre;
+    const CuadroImagen &p = f.Pic_BotonesSiempre;
     EXPECT_EQ(p.Point(c.ancho - 1, c.alto / 2), 0x808080u);
     EXPECT_EQ(p.Point(c.ancho / 2, c.alto - 1), 0x808080u);
     EXPECT_EQ(p.Point(c.ancho / 2, 0), COLOR_BLANCO);
@@ -135,8 +135,8 @@ TEST_F(Paneles, ElPanelEscribeLaCuentaAlPie) {
 TEST_F(Paneles, UnBotonEnMarchaVuelvePulsadoAlRehacerElPanel) {
     BotonPulsado[7] = VERDADERO;
     DibujaBotonesSiempre();
-    const Superficie &b7 = teselari.Pic_BotonSiempre[7];
-    const Superficie &b6 = teselari.Pic_BotonSiempre[6];
+    const CuadroImagen &b7 = teselari.Pic_BotonSiempre[7];
+    const CuadroImagen &b6 = teselari.Pic_BotonSiempre[6];
     // Down: the image starts at 5; up: at 3.
     EXPECT_EQ(b7.Point(4, 4), GRIS_PANEL);
     EXPECT_EQ(b7.Point(5, 5), CuerpoPrueba(7));
@@ -171,7 +171,7 @@ TEST_P(PanelDerecho, SeAbreJuntoAlRatonSinSalirDeLaPantalla) {
     Pantalla(1024, c.alto_pantalla);
     BotonEnDerecho.fill(true);
     DibujaBotonesDerecho(c.x, c.y);
-    const Superficie &p = teselari.Pic_BotonesDerecho;
+    const CuadroImagen &p = teselari.Pic_BotonesDerecho;
     EXPECT_TRUE(p.Visible);
     EXPECT_EQ(p.Left, c.left);
     EXPECT_EQ(p.Top, c.top);
@@ -182,7 +182,7 @@ TEST_P(PanelDerecho, SeAbreJuntoAlRatonSinSalirDeLaPantalla) {
     EXPECT_LE(p.Top + p.Alto(), c.alto_pantalla - 16);
     const bool dos = c.ancho == 119;
     for (int i = 1; i <= 11; ++i) {
-        const Superficie &b = teselari.Pic_BotonDerecho[i];
+        const CuadroImagen &b = teselari.Pic_BotonDerecho[i];
         EXPECT_TRUE(b.Visible);
         const int fila = dos && i > 6 ? i - 7 : i - 1;
         EXPECT_EQ(b.Left, dos && i > 6 ? 61 : 3) << i;
@@ -197,7 +197,7 @@ TEST_F(Paneles, SinBotonesElPanelDerechoNoSeAbre) {
     BotonEnDerecho.fill(false);
     teselari.Pic_BotonesDerecho.Move(5, 6, 7, 8);
     DibujaBotonesDerecho(300, 300);
-    const Superficie &p = teselari.Pic_BotonesDerecho;
+    const CuadroImagen &p = teselari.Pic_BotonesDerecho;
     EXPECT_FALSE(p.Visible);
     EXPECT_EQ(p.Left, 5);
     EXPECT_EQ(p.Top, 6);
@@ -222,7 +222,7 @@ class AspectoBoton : public Paneles, public ::testing::WithParamInterface<int> {
 
 TEST_P(AspectoBoton, PulsadoPierdeLaSombraYSeDesplaza) {
     const int16_t i = static_cast<int16_t>(GetParam());
-    Superficie &c = teselari.Pic_BotonSiempre[i];
+    CuadroImagen &c = teselari.Pic_BotonSiempre[i];
     const size_t semillas = SemillasSombra()[static_cast<size_t>(i)].size();
     const int sombra = static_cast<int>(9 * semillas);
 

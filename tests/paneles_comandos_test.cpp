@@ -36,7 +36,7 @@ class Comandos : public Motor {
 
 TEST_F(Comandos, ElModeloAparecePorAbajoYDesaparece) {
     FormTeselari &f = teselari;
-    Superficie &m = f.Pic_Muestra;
+    CuadroImagen &m = f.Pic_Muestra;
     f.BarraVer.PonMax(100);
     f.BarraVer.PonValue(40);
     ModeloVisible = false;

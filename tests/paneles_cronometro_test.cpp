@@ -61,7 +61,7 @@ class PanelCronometro : public Motor {
 };
 
 TEST_F(PanelCronometro, ElTicSumaUnSegundoYLoEscribeEnElCampo) {
-    Superficie &panel = teselari.Pic_Cronome;
+    CuadroImagen &panel = teselari.Pic_Cronome;
     panel.CajaLlena(0, 0, 61, 38, COLOR_NEGRO);
     SegundosCronometro = 3599;
     ArrancaCronometro();
@@ -142,7 +142,7 @@ TEST_P(TeclaCronometro, ActuaSoloDondeCambiaElEstado) {
     Pic_Cronome_MouseMove(0, 0, c.x, c.y);
     EXPECT_EQ(CursorPanelNuevo, c.cursor);
     EXPECT_EQ(CursorPanel, c.cursor);
-    const Superficie &panel = teselari.Pic_Cronome;
+    const CuadroImagen &panel = teselari.Pic_Cronome;
     const char *iconos[] = {"", "MANOBLANCA", "MANOINDICE"};
     if (c.cursor == 0) {
         EXPECT_EQ(panel.MousePointer, PUNTERO_NORMAL);

@@ -12,7 +12,7 @@ class PanelModelo : public Motor {
     void SetUp() override {
         RestauraValoresIniciales();
         PreparaPantallaPaneles();
-        Superficie &m = teselari.Pic_Muestra;
+        CuadroImagen &m = teselari.Pic_Muestra;
         m.Move(300, 500, 200, 150);
         m.Visible = true;
     }

@@ -1,10 +1,11 @@
-// Superficie: size, colours, picture, clip of every write, change reports,
-// text through the installed Rotulador.
+// Superficie: size (and a picture box's place), colours, picture, clip of every write, change
+// reports, text through the installed Rotulador.
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <random>
 
+#include "core/Controles.h"
 #include "raster_referencia.h"
 
 namespace {
@@ -17,7 +18,7 @@ TEST(RasterSuperficie, CambiaTamanoConservaYRellena) {
                  {0, 0, 0, 0},       {7.5, 4.5, 8, 4}}; // halves go to the even neighbour
     std::mt19937 azar(1);
     for (const auto &c : casos) {
-        Superficie s = referencia::Aleatoria(8, 5, azar);
+        CuadroImagen s(referencia::Aleatoria(8, 5, azar));
         const Superficie antes = s;
         s.PonBackColorSinPintar(0x00FF00);
         s.Move(1.6, -2.4, c.ancho, c.alto);

@@ -84,17 +84,17 @@ TEST_F(Careta, ElPanelQuedaCentradoEnCualquierPantalla) {
         EXPECT_LE(std::abs(derecha - f.Pic_Todos.Left), 1);
         EXPECT_LE(std::abs(abajo - f.Pic_Todos.Top), 1);
         // The sources are out of sight, right of the screen.
-        for (const Superficie *s : {&f.Pic_Logo, &f.Pic_Icono, &f.Pic_Bmp}) {
+        for (const CuadroImagen *s : {&f.Pic_Logo, &f.Pic_Icono, &f.Pic_Bmp}) {
             EXPECT_GE(s->Left, c.ancho);
         }
     }
 }
 
 TEST_F(Careta, ElMarcoRodeaLaVentanaConSusLadosOscuros) {
-    const Superficie &t = form.Pic_Todos;
+    const CuadroImagen &t = form.Pic_Todos;
     ASSERT_EQ(t.Ancho(), 323);
     ASSERT_EQ(t.Alto(), 209);
-    const Superficie &v = form.Pic_Careta;
+    const CuadroImagen &v = form.Pic_Careta;
     EXPECT_EQ(v.Left, 16);
     EXPECT_EQ(v.Top, 30);
     struct Punto {

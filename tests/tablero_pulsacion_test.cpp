@@ -84,7 +84,7 @@ TEST_F(Tablero, UnaPulsacionSinPiezaNoCambiaNada) {
 
 TEST_F(Tablero, ElBotonDerechoAbreElPanelYElIzquierdoLoCierra) {
     PreparaTablero(4, 0, 320, 240);
-    Superficie &panel = teselari.Pic_BotonesDerecho;
+    CuadroImagen &panel = teselari.Pic_BotonesDerecho;
     BotonEnDerecho.fill(true);
     struct Caso {
         const char *que;

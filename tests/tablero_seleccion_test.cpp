@@ -20,7 +20,7 @@ using Punto = std::pair<int32_t, int32_t>;
 // A pixel of the piece mask in Pic_PiezaMascara with the colour given, the
 // first one met from the corner (or from the centre outwards when asked).
 std::optional<Punto> PuntoDeMascara(Color c, bool desdeElCentro) {
-    const Superficie &m = teselari.Pic_PiezaMascara;
+    const CuadroImagen &m = teselari.Pic_PiezaMascara;
     const int32_t cx = m.Ancho() / 2, cy = m.Alto() / 2;
     const int32_t radio = std::max(m.Ancho(), m.Alto());
     for (int32_t r = 0; r < radio; ++r) {
@@ -155,7 +155,7 @@ TEST_F(Tablero, ElCursorDiceSiLaPiezaDebajoEstaEnSuSitio) {
     PonPieza(15, 170, 130); // away, on top of the pile and over piece 6
     PiezaPrioritaria(PosicionDe(15));
     RepintaTablero();
-    Superficie &t = teselari.Pic_Trabajo;
+    CuadroImagen &t = teselari.Pic_Trabajo;
     struct Caso {
         const char *que;
         int32_t x, y;

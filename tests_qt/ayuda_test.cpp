@@ -215,7 +215,7 @@ void AyudaDoble(int16_t tema) {
 TEST(TeclaF1, PideElTemaDelControlBajoElRaton) {
     RestauraValoresIniciales();
     FormTeselari &f = teselari;
-    const auto pon = [](Superficie &s, int x, int y, int ancho, int alto) {
+    const auto pon = [](CuadroImagen &s, int x, int y, int ancho, int alto) {
         s.Move(x, y, ancho, alto);
         s.Visible = true;
     };

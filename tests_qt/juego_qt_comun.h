@@ -160,19 +160,19 @@ class JuegoQt : public testing::Test {
             auto *w = qobject_cast<QWidget *>(o);
             auto *v = qobject_cast<VistaSuperficie *>(o);
             if (v != nullptr && v != ventana->Pic_Trabajo && v->Control().Visible) {
-                const Superficie &c = v->Control();
+                const CuadroImagen &c = v->Control();
                 libre -= QRect(c.Left, c.Top, c.Ancho(), c.Alto());
             } else if (v == nullptr && w != nullptr && w->isVisible()) {
                 libre -= w->geometry();
             }
         }
         // The model is a child of the work area and moves with it.
-        const Superficie &modelo = PuzzGbl::teselari.Pic_Muestra;
+        const CuadroImagen &modelo = PuzzGbl::teselari.Pic_Muestra;
         if (modelo.Visible) {
             libre -= QRect(modelo.Left, modelo.Top, modelo.Ancho(), modelo.Alto())
                          .translated(ventana->Pic_Trabajo->pos());
         }
-        const Superficie &s = PuzzGbl::teselari.Pic_Trabajo;
+        const CuadroImagen &s = PuzzGbl::teselari.Pic_Trabajo;
         const QPoint origen = ventana->Pic_Trabajo->pos();
         int distintos = 0;
         for (const QRect &r : libre) {

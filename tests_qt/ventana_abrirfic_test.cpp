@@ -320,3 +320,26 @@ TEST_F(VentanaAbrirFicTest, CadaRotuloCabeASuTamano) {
         EXPECT_EQ(w->font().pixelSize(), PixelesDePuntos(puntos)) << nombre;
     }
 }
+
+// The lists take the player's keys and double clicks from the widgets, and
+// the left button only: a key moves the choice as a click does, a double
+// click opens a folder.
+TEST_F(VentanaAbrirFicTest, LasTeclasEligenComoUnClicYElDobleClicAbreLaCarpeta) {
+    QListWidget *file1 = Lista("File1");
+    const QRect c = file1->visualItemRect(file1->item(Indice(file1, "c.bmp")));
+    QTest::mouseClick(file1->viewport(), Qt::RightButton, {}, c.center());
+    file1->setFocus();
+    QTest::keyClick(file1, Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([] { return NombreImagen == "b.bmp"; }, 2000));
+    EXPECT_TRUE(mensajes.empty());
+
+    std::filesystem::create_directory(carpeta / "sub");
+    Abre();
+    QListWidget *dir1 = Lista("Dir1");
+    const QPoint sub = dir1->visualItemRect(dir1->item(dir1->count() - 1)).center();
+    QTest::mouseClick(dir1->viewport(), Qt::LeftButton, {}, sub);
+    EXPECT_EQ(form->Dir1.Path(), carpeta.string());
+    QTest::mouseDClick(dir1->viewport(), Qt::LeftButton, {}, sub);
+    EXPECT_EQ(form->Dir1.Path(), (carpeta / "sub").string());
+    EXPECT_EQ(Lista("File1")->count(), 0);
+}

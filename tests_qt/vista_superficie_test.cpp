@@ -30,8 +30,8 @@ struct Llamada {
     float x, y;
 };
 
-Superficie Dibujada(int w, int h) {
-    Superficie s(w, h, 0x336699);
+CuadroImagen Dibujada(int w, int h) {
+    CuadroImagen s(w, h, 0x336699);
     s.Line(0, 0, w, h, 0x0000FF);
     s.CajaLlena(5, 5, 15, 12, 0x00FF00);
     s.PSet(w - 1, h - 1, 0xABCDEF);
@@ -41,7 +41,7 @@ Superficie Dibujada(int w, int h) {
 } // namespace
 
 TEST(VistaSuperficie, MuestraExactamenteLosPixelesDeLaSuperficie) {
-    Superficie s = Dibujada(37, 23);
+    CuadroImagen s = Dibujada(37, 23);
     VistaSuperficie vista(s);
     EXPECT_EQ(vista.size(), QSize(37, 23));
     const QImage imagen = vista.grab().toImage().convertToFormat(QImage::Format_RGB32);
@@ -56,7 +56,7 @@ TEST(VistaSuperficie, MuestraExactamenteLosPixelesDeLaSuperficie) {
 TEST(VistaSuperficie, ReflejaLugarTamanoVisibilidadYPista) {
     QWidget padre;
     padre.resize(300, 200);
-    Superficie s(20, 10);
+    CuadroImagen s(20, 10);
     s.Left = 7;
     s.Top = -3;
     VistaSuperficie vista(s, &padre);
@@ -74,7 +74,7 @@ TEST(VistaSuperficie, ReflejaLugarTamanoVisibilidadYPista) {
 }
 
 TEST(VistaSuperficie, RepintaEnElActoLoQueTocaUnDibujo) {
-    Superficie s(100, 80, 0xFFFFFF);
+    CuadroImagen s(100, 80, 0xFFFFFF);
     VistaSuperficie vista(s);
     vista.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&vista));
@@ -97,7 +97,7 @@ TEST(VistaSuperficie, RepintaEnElActoLoQueTocaUnDibujo) {
 TEST(VistaSuperficie, UnaSuperficieAgrandadaPorLaLogicaSeVeEntera) {
     QWidget padre;
     padre.resize(400, 300);
-    Superficie s(10, 10);
+    CuadroImagen s(10, 10);
     VistaSuperficie vista(s, &padre);
     padre.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&padre));
@@ -107,7 +107,7 @@ TEST(VistaSuperficie, UnaSuperficieAgrandadaPorLaLogicaSeVeEntera) {
 }
 
 TEST(VistaSuperficie, ElRatonLlegaConBotonesYCoordenadasDeLaSuperficie) {
-    Superficie s(200, 150);
+    CuadroImagen s(200, 150);
     VistaSuperficie vista(s);
     vista.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&vista));

@@ -42,7 +42,7 @@ void SorteaPosicion(int16_t &col, int16_t &fila) {
         const double r1 = Rnd(), r2 = Rnd();
         col = static_cast<int16_t>(Int(r1 * (w - AnchoPieza) + 1));
         fila = static_cast<int16_t>(Int(r2 * (h - AltoPieza) + 1));
-        const Superficie &panel = f.Pic_BotonesSiempre;
+        const CuadroImagen &panel = f.Pic_BotonesSiempre;
         if (col > w - panel.Ancho() - AnchoPieza / 2.0 &&
             fila < panel.Alto() + f.BarraVer.Value() - AltoPieza / 2.0) {
             col =

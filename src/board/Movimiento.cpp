@@ -5,8 +5,8 @@
 #include "board/Arrastre.h"
 #include "board/Raton.h"
 #include "board/Seleccion.h"
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 
@@ -56,7 +56,7 @@ void ActualizaCursor(double x, double y) {
     if (CursorTrabajoNuevo == CursorTrabajo) {
         return;
     }
-    Superficie &trabajo = teselari.Pic_Trabajo;
+    CuadroImagen &trabajo = teselari.Pic_Trabajo;
     switch (CursorTrabajoNuevo) {
     case 1:
         PonCursor(trabajo, "ManoVerde");

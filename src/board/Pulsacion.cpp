@@ -45,7 +45,7 @@ void Pic_Trabajo_MouseDown(int16_t boton, int16_t, float x, float y) {
         CursorTrabajo = 0;
         ArrancaCronometro(); // also after the end of a game
     }
-    Superficie &derecho = teselari.Pic_BotonesDerecho;
+    CuadroImagen &derecho = teselari.Pic_BotonesDerecho;
     if (derecho.Visible) {
         derecho.Visible = false;
         if (i != 0) {

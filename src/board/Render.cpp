@@ -2,10 +2,10 @@
 
 #include <string>
 
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "raster/Raster.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 

@@ -23,7 +23,7 @@ namespace {
 // before left.
 void LimitaALaVista(Pieza &q) {
     const FormTeselari &f = teselari;
-    const Superficie &panel = f.Pic_BotonesSiempre;
+    const CuadroImagen &panel = f.Pic_BotonesSiempre;
     const int32_t hv = f.BarraHor.Value(), vv = f.BarraVer.Value();
     const double medioAncho = AnchoPieza / 2.0, medioAlto = AltoPieza / 2.0;
     if (q.X > panel.Left + hv - medioAncho && q.Y < panel.Alto() + vv - AltoPieza) {

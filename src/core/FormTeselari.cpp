@@ -5,8 +5,8 @@
 namespace {
 
 // Colours and styles of one surface.
-void Configura(Superficie &s, Color fondo, Color tinta, bool tomaTamano = false) {
-    s = Superficie();
+void Configura(CuadroImagen &s, Color fondo, Color tinta, bool tomaTamano = false) {
+    s = CuadroImagen();
     s.PonBackColorSinPintar(fondo);
     s.ForeColor = tinta;
     s.FillColor = COLOR_NEGRO;
@@ -17,12 +17,12 @@ void Configura(Superficie &s, Color fondo, Color tinta, bool tomaTamano = false)
 // A command button: grey, filled solid grey (the shadow of a pressed
 // button is flooded with that brush), no entry until the mouse finds it
 // can act.
-void ConfiguraBoton(Superficie &b) {
+void ConfiguraBoton(CuadroImagen &b) {
     Configura(b, 0xC0C0C0, COLOR_NEGRO);
     b.FillColor = 0xC0C0C0;
     b.RellenaFiguras = true;
     b.Move(0, 0, 56, 56);
-    b.MousePointer = 12;
+    b.MousePointer = PUNTERO_PROHIBIDO;
 }
 
 } // namespace
@@ -61,13 +61,16 @@ void FormTeselari::Inicializa() {
     Configura(Pic_BSInfo, COLOR_BLANCO, 0xFF0000);
     Pic_BSInfo.Move(3, 0, 56, 23);
     Pic_BSInfo.Visible = true;
+    // The count is framed: the sunken frame covers its outer two pixels, and
+    // its text is centred in the width within.
+    Pic_BSInfo.Borde = true;
     Configura(Pic_Cronome, 0xC0C0C0, 0xFF0000);
     Pic_Cronome.Move(0, 0, 62, 39);
     Pic_Cronome.Letra.Negrita = true;
 
     Configura(Pic_BotonesDerecho, 0xC0C0C0, COLOR_NEGRO);
     for (auto *panel : {&Pic_BotonSiempre, &Pic_BotonDerecho}) {
-        for (Superficie &b : *panel) {
+        for (CuadroImagen &b : *panel) {
             ConfiguraBoton(b);
         }
     }

@@ -113,7 +113,7 @@ ArcosPlantilla ArcosPlantillaB(double x0, double y0, double w, double h, double 
 }
 
 void ConstruyePlantillas() {
-    Superficie &s = teselari.Pic_Temporal;
+    CuadroImagen &s = teselari.Pic_Temporal;
     // The spare space beyond the two templates takes what the arcs overshoot.
     s.Move(0, 0, AnchoPiezaTotal * 2.1, AltoPiezaTotal * 1.1);
     s.Cls();

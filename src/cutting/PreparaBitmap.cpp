@@ -45,7 +45,7 @@ void AjustaRango(BarraDesplazamiento &barra, int32_t necesita, int32_t sitio) {
 // The model: the clean picture at half size, centred above the lower bar.
 void PreparaModelo() {
     FormTeselari &f = teselari;
-    Superficie &m = f.Pic_Muestra;
+    CuadroImagen &m = f.Pic_Muestra;
     m.Visible = false;
     m.AsignaImagen(f.Pic_Origin);
     m.CambiaTamano(f.Pic_Bitmap.Ancho() / 2.0, f.Pic_Bitmap.Alto() / 2.0);
@@ -68,7 +68,7 @@ void PreparaTrabajo() {
         h = f.Pic_Bitmap.Alto() + HOLGURA_TRABAJO;
     }
     const Color fondo = static_cast<Color>(ColoresFondo[ColorFondo]);
-    for (Superficie *s : {&f.Pic_Trabajo, &f.Pic_Imagen}) {
+    for (CuadroImagen *s : {&f.Pic_Trabajo, &f.Pic_Imagen}) {
         s->Move(0, 0, w, h);
         s->PonBackColorSinPintar(fondo);
         s->Cls();
@@ -122,7 +122,7 @@ void PreparaBitmap() {
     if (TipoPieza == 1) {
         ConstruyePlantillas();
     }
-    for (Superficie *s : {&f.Pic_PiezaImagen, &f.Pic_PiezaMascara, &f.Pic_PiezaFinal}) {
+    for (CuadroImagen *s : {&f.Pic_PiezaImagen, &f.Pic_PiezaMascara, &f.Pic_PiezaFinal}) {
         s->Move(0, 0, AnchoPiezaTotal, AltoPiezaTotal);
     }
     if (TipoPieza < 2) {

@@ -28,7 +28,7 @@ void FormAbrirFic::Bot_Botones_Click() {
         Opt_Derecho[i].Value = BotonEnDerecho[i];
     }
     BitBlt(Pic_SalirPicBotones, 4, 4, 48, 48, teselari.Pic_BmpBoton, 491, 1, SRCCOPY);
-    Superficie &p = Pic_LugarBotones;
+    CuadroImagen &p = Pic_LugarBotones;
     p.Move(0, 0);
     const int32_t w = p.Ancho(), h = p.Alto();
     p.Caja(0, 0, w - 1, h - 1, GRIS_OSCURO);

@@ -1,6 +1,7 @@
 // AbrirFic's opening: the snapshot, the folder, the panels drawn.
 #include "core/Plataforma.h"
 #include "core/Programa.h"
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
@@ -8,7 +9,6 @@
 #include "dialog/ServiciosDialogo.h"
 #include "panels/Paneles.h"
 #include "raster/Raster.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 

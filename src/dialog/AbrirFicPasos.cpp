@@ -38,7 +38,7 @@ int16_t Redondo5(int32_t v) {
 
 } // namespace
 
-void FormAbrirFic::PreparaPulsador(SuperficieDialogo &panel, const std::string &titulo, int16_t x,
+void FormAbrirFic::PreparaPulsador(CuadroImagen &panel, const std::string &titulo, int16_t x,
                                    int16_t y, void (FormAbrirFic::*imprime)()) {
     ImprimeTexto3D(panel, x, y, titulo);
     panel.CurrentX = 8;
@@ -92,9 +92,9 @@ bool FormAbrirFic::LimiteZoom(bool subiendo) {
 // The repeat ends when MouseMove or MouseUp, run while events are let
 // through, clears the flag. With no event loop to let through (no platform)
 // nobody could clear it, so one turn is all there is.
-void FormAbrirFic::PulsaPaso(SuperficieDialogo &panel, PasosPorcentaje &p, int16_t &valor,
-                             int16_t tope, int16_t suelo, void (FormAbrirFic::*imprime)(),
-                             bool conLimite, float X, float Y) {
+void FormAbrirFic::PulsaPaso(CuadroImagen &panel, PasosPorcentaje &p, int16_t &valor, int16_t tope,
+                             int16_t suelo, void (FormAbrirFic::*imprime)(), bool conLimite,
+                             float X, float Y) {
     const bool sube = EnFlecha(p.BotonSubeX, p.BotonSubeY, X, Y) && panel.Point(X, Y) != GRIS;
     const bool baja =
         !sube && EnFlecha(p.BotonBajaX, p.BotonBajaY, X, Y) && panel.Point(X, Y) != GRIS;
@@ -127,7 +127,7 @@ void FormAbrirFic::PulsaPaso(SuperficieDialogo &panel, PasosPorcentaje &p, int16
     }
 }
 
-void FormAbrirFic::MueveSobrePaso(SuperficieDialogo &panel, PasosPorcentaje &p, float X, float Y) {
+void FormAbrirFic::MueveSobrePaso(CuadroImagen &panel, PasosPorcentaje &p, float X, float Y) {
     if (p.Subiendo != FALSO && !EnFlecha(p.BotonSubeX, p.BotonSubeY, X, Y)) {
         p.Subiendo = FALSO;
     }
@@ -141,7 +141,7 @@ void FormAbrirFic::MueveSobrePaso(SuperficieDialogo &panel, PasosPorcentaje &p, 
     }
 }
 
-void FormAbrirFic::SueltaPaso(SuperficieDialogo &panel, PasosPorcentaje &p) {
+void FormAbrirFic::SueltaPaso(CuadroImagen &panel, PasosPorcentaje &p) {
     if (p.Subiendo != FALSO) {
         PintaFlecha(panel, Pic_BmpVario, p.BotonSubeX, p.BotonSubeY, SUBE_ALZADA);
         Refresca();

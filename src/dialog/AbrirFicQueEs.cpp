@@ -1,7 +1,7 @@
 // AbrirFic's what's-this mode and the pointing hand of its controls.
+#include "core/Controles.h"
 #include "dialog/FormAbrirFic.h"
 #include "services/Ayuda.h"
-#include "services/Sonidos.h"
 
 void FormAbrirFic::Bot_QueEs_Click() {
     ModoQueEs = -1;
@@ -18,13 +18,7 @@ bool FormAbrirFic::AtiendeQueEs(int16_t tema) {
     return true;
 }
 
-void FormAbrirFic::PonManoSiNormal(ControlDialogo &control) {
-    if (control.MousePointer == PUNTERO_NORMAL) {
-        PonCursor(control, "ManoIndice");
-    }
-}
-
-void FormAbrirFic::PonManoSiNormal(Superficie &control) {
+void FormAbrirFic::PonManoSiNormal(EstadoControl &control) {
     if (control.MousePointer == PUNTERO_NORMAL) {
         PonCursor(control, "ManoIndice");
     }

@@ -100,7 +100,7 @@ void FormAbrirFic::Pic_TipPuz_MouseMove(int16_t Index, int16_t, int16_t, float, 
     if (Index < 0 || Index > 5) {
         return;
     }
-    SuperficieDialogo &c = Pic_TipPuz[Index];
+    CuadroImagen &c = Pic_TipPuz[Index];
     if (c.Enabled && c.MousePointer == PUNTERO_NORMAL && Index != TipoPieza) {
         PonCursor(c, "ManoIndice");
     }
@@ -110,7 +110,7 @@ void FormAbrirFic::Pic_ColFon_MouseMove(int16_t Index, int16_t, int16_t, float, 
     if (Index < 0 || Index > 5) {
         return;
     }
-    SuperficieDialogo &c = Pic_ColFon[Index];
+    CuadroImagen &c = Pic_ColFon[Index];
     if (c.MousePointer == PUNTERO_NORMAL && Index != ColorFondo) {
         PonCursor(c, "ManoIndice");
     }
@@ -187,7 +187,7 @@ void FormAbrirFic::Pic_Pistas_MouseDown(int16_t, int16_t, float X, float Y) {
     }
 }
 
-void FormAbrirFic::MueveSobreSelector(SuperficieDialogo &pic, float X, float Y) {
+void FormAbrirFic::MueveSobreSelector(CuadroImagen &pic, float X, float Y) {
     if (EnLlave(X, Y)) {
         PonManoSiNormal(pic);
     } else if (pic.MousePointer != PUNTERO_NORMAL) {

@@ -7,18 +7,10 @@
 #include <system_error>
 
 #include "core/Programa.h"
+#include "core/Controles.h"
 #include "dialog/ServiciosDialogo.h"
-#include "services/Sonidos.h"
 
 namespace fs = std::filesystem;
-
-SuperficieDialogo::SuperficieDialogo(const std::string &nombre, const std::string &padre,
-                                     int32_t left, int32_t top, int32_t ancho, int32_t alto,
-                                     Color fondo, bool borde)
-    : Superficie(ancho, alto, fondo), Nombre(nombre), Padre(padre), Borde(borde) {
-    Left = left;
-    Top = top;
-}
 
 // --- plain list ---
 
@@ -247,12 +239,4 @@ void ListaFicheros::Refresh() {
         }
     }
     Rellena(std::move(nombres));
-}
-
-void PonCursor(ControlDialogo &control, const std::string &nombre) {
-    control.MousePointer = PUNTERO_PROPIO;
-    control.MouseIcon = nombre;
-    for (char &c : control.MouseIcon) {
-        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    }
 }

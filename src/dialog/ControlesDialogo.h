@@ -1,10 +1,9 @@
-// The controls of a dialog as plain state, besides its surfaces.
+// The kinds of control the dialogs add to the picture boxes and scroll bars
+// of the main form: buttons, outlines, option buttons, labels and lists.
 //
 // The logic reads and writes them here; the platform mirrors them onto
-// widgets (place, size, Visible, Enabled, tooltip, pointer, caption, list
-// contents and ListIndex) and feeds the player's events back to the form's
-// handlers. Every control knows its own name and its parent's, so the
-// platform can build the tree; an empty parent is the form itself.
+// widgets (what every control carries, and caption, list contents and
+// ListIndex) and feeds the player's events back to the form's handlers.
 #pragma once
 
 #include <cstdint>
@@ -12,63 +11,28 @@
 #include <string>
 #include <vector>
 
-#include "raster/Superficie.h"
-
-// What every control carries. Places are in pixels inside the parent.
-struct ControlDialogo {
-    std::string Nombre;
-    std::string Padre;
-    int32_t Left = 0;
-    int32_t Top = 0;
-    int32_t Width = 0;
-    int32_t Height = 0;
-    bool Visible = true;
-    bool Enabled = true; // a disabled control receives no mouse events
-    std::string ToolTipText;
-    int16_t MousePointer = 0;    // 0 default, 11 hourglass, 99 custom
-    std::string MouseIcon;       // the custom cursor's name
-    int16_t WhatsThisHelpID = 0; // topic given in what's-this mode
-    int16_t HelpContextID = 0;   // topic of the F1 key
-
-    void Move(int32_t left, int32_t top) {
-        Left = left;
-        Top = top;
-    }
-};
-
-// A surface control of a dialog: a Superficie with the rest of a control.
-struct SuperficieDialogo : Superficie {
-    SuperficieDialogo() = default;
-    SuperficieDialogo(const std::string &nombre, const std::string &padre, int32_t left,
-                      int32_t top, int32_t ancho, int32_t alto, Color fondo, bool borde = true);
-    std::string Nombre;
-    std::string Padre;
-    bool Enabled = true;
-    bool Borde = true; // the platform's sunken frame; false is flat
-    int16_t WhatsThisHelpID = 0;
-    int16_t HelpContextID = 0;
-};
+#include "core/Controles.h"
 
 // A push button.
-struct BotonDialogo : ControlDialogo {
+struct BotonDialogo : ControlConTamano {
     std::string Caption;
     Fuente Letra;
 };
 
 // A rectangle outline (the red marks of the chosen boxes).
-struct RectanguloDialogo : ControlDialogo {
+struct RectanguloDialogo : ControlConTamano {
     Color BorderColor = 0x0000FF;
     int16_t BorderWidth = 3;
 };
 
 // An option button; the two of one frame exclude each other.
-struct OpcionDialogo : ControlDialogo {
+struct OpcionDialogo : ControlConTamano {
     std::string Caption;
     bool Value = false;
 };
 
 // A label.
-struct EtiquetaDialogo : ControlDialogo {
+struct EtiquetaDialogo : ControlConTamano {
     std::string Caption;
     Fuente Letra;
     Color ForeColor = COLOR_NEGRO;
@@ -78,7 +42,7 @@ struct EtiquetaDialogo : ControlDialogo {
 // A list box. Assigning ListIndex to another value than it holds runs Click
 // at once, as a click of the player does; -1 is nothing selected and runs
 // nothing. Clearing or refilling leaves -1 and raises no click.
-class ListaDialogo : public ControlDialogo {
+class ListaDialogo : public ControlConTamano {
   public:
     const std::vector<std::string> &Elementos() const { return elementos_; }
     int32_t ListCount() const { return static_cast<int32_t>(elementos_.size()); }
@@ -170,7 +134,3 @@ class ListaFicheros : public ListaDialogo {
 // Whether a file name matches a pattern of ';'-separated wildcards ('*' and
 // '?'), without regard to case.
 bool CoincideConPatron(const std::string &nombre, const std::string &patron);
-
-// The pointer of a control: custom, with the named hand (as PonCursor does
-// for a surface).
-void PonCursor(ControlDialogo &control, const std::string &nombre);

@@ -5,9 +5,9 @@
 
 #include "core/Plataforma.h"
 #include "core/Programa.h"
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "dialog/ServiciosDialogo.h"
-#include "services/Sonidos.h"
 
 namespace {
 
@@ -23,9 +23,9 @@ constexpr int32_t CAJA_Y[6] = {30, 30, 30, 75, 75, 75};
 constexpr int32_t MARCO_X[12] = {0, 32, 32, 33, 32, 235, 235, 235, 235, 438, 438, 438};
 constexpr int32_t MARCO_Y[12] = {0, 24, 138, 252, 366, 24, 138, 252, 366, 24, 138, 252};
 
-SuperficieDialogo Pic(const std::string &nombre, const std::string &padre, int32_t l, int32_t t,
-                      int32_t w, int32_t h, Color fondo = GRIS, bool borde = true) {
-    SuperficieDialogo s(nombre, padre, l, t, w, h, fondo, borde);
+CuadroImagen Pic(const std::string &nombre, const std::string &padre, int32_t l, int32_t t,
+                 int32_t w, int32_t h, Color fondo = GRIS, bool borde = true) {
+    CuadroImagen s(nombre, padre, l, t, w, h, fondo, borde);
     s.Letra.Negrita = true;
     s.WhatsThisHelpID = TEMA_DIALOGO;
     s.HelpContextID = TEMA_OTROS;
@@ -41,7 +41,7 @@ std::string Elemento(const char *nombre, int i) {
     return s;
 }
 
-void Coloca(ControlDialogo &c, const std::string &nombre, const std::string &padre, int32_t l,
+void Coloca(ControlConTamano &c, const std::string &nombre, const std::string &padre, int32_t l,
             int32_t t, int32_t w, int32_t h, int16_t tema) {
     c.Nombre = nombre;
     c.Padre = padre;
@@ -58,7 +58,7 @@ void Boton(BotonDialogo &b, const std::string &caption, double puntos, bool negr
     b.Letra.Negrita = negrita;
 }
 
-void Temas(SuperficieDialogo &s, int16_t queEs, int16_t f1 = TEMA_OTROS) {
+void Temas(EstadoControl &s, int16_t queEs, int16_t f1 = TEMA_OTROS) {
     s.WhatsThisHelpID = queEs;
     s.HelpContextID = f1;
 }
@@ -151,7 +151,7 @@ void FormAbrirFic::ColocaControles() {
     Temas(Pic_Cronometro, 1239);
     Temas(Pic_Sonido, 1240);
     Temas(Pic_Pistas, 1241);
-    for (SuperficieDialogo *s : {&Pic_Cronometro, &Pic_Sonido, &Pic_Pistas}) {
+    for (CuadroImagen *s : {&Pic_Cronometro, &Pic_Sonido, &Pic_Pistas}) {
         s->Letra.Negrita = false;
     }
     Pic_Velocidad = Pic("Pic_Velocidad", "", 462, 338, 152, 64);
@@ -192,7 +192,7 @@ void FormAbrirFic::ColocaPaginaBotones() {
         Opt_Siempre[i].Caption = "Siempre visible";
         Coloca(Opt_Derecho[i], Elemento("Opt_Derecho", i), marco, 68, 58, 93, 18, 1242);
         Opt_Derecho[i].Caption = "Botón derecho";
-        for (ControlDialogo *c : std::initializer_list<ControlDialogo *>{
+        for (EstadoControl *c : std::initializer_list<EstadoControl *>{
                  &Lab_Botones[i], &Opt_Siempre[i], &Opt_Derecho[i]}) {
             c->HelpContextID = 1242;
         }

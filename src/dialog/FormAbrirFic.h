@@ -40,66 +40,66 @@ class FormAbrirFic {
     // --- the form: borderless, 640 x 480, grey ---
     int32_t Left = 0;
     int32_t Top = 0;
-    SuperficieDialogo Formulario; // the form's own drawing area
-    int16_t MousePointer = 0;     // the form's own pointer (14 in what's-this mode)
+    CuadroImagen Formulario;  // the form's own drawing area
+    int16_t MousePointer = 0; // the form's own pointer (14 in what's-this mode)
     std::function<void()> AlRefrescar;
     bool Descargado() const { return descargado_; }
 
     // --- picture column ---
-    SuperficieDialogo Pic_ImagenPuzz;
+    CuadroImagen Pic_ImagenPuzz;
     ListaUnidades Drive1;
     ListaCarpetas Dir1;
     ListaFicheros File1;
     BotonDialogo Bot_Portapapeles;
-    SuperficieDialogo Pic_Modelo;
-    SuperficieDialogo Pic_Zoom;
-    SuperficieDialogo Pic_PorcZoom;
-    SuperficieDialogo Pic_DatosBmp;
+    CuadroImagen Pic_Modelo;
+    CuadroImagen Pic_Zoom;
+    CuadroImagen Pic_PorcZoom;
+    CuadroImagen Pic_DatosBmp;
 
     // --- shapes and colours ---
-    SuperficieDialogo Pic_TiposPuz;
-    std::array<SuperficieDialogo, 6> Pic_TipPuz;
+    CuadroImagen Pic_TiposPuz;
+    std::array<CuadroImagen, 6> Pic_TipPuz;
     RectanguloDialogo Rec_MarcaTip;
-    SuperficieDialogo Pic_Colorfon;
-    std::array<SuperficieDialogo, 6> Pic_ColFon;
+    CuadroImagen Pic_Colorfon;
+    std::array<CuadroImagen, 6> Pic_ColFon;
     RectanguloDialogo Rec_MarcaCol;
 
     // --- attraction, with the test panel ---
-    SuperficieDialogo Pic_FactorPegado;
-    SuperficieDialogo Pic_PorcFactorPegado;
-    SuperficieDialogo Pic_Prueba;
+    CuadroImagen Pic_FactorPegado;
+    CuadroImagen Pic_PorcFactorPegado;
+    CuadroImagen Pic_Prueba;
     BotonDialogo Bot_Prueba;
-    SuperficieDialogo Pic_PruebaPeq;
+    CuadroImagen Pic_PruebaPeq;
 
     // --- right column ---
     BotonDialogo Bot_Botones;
     BotonDialogo Bot_QueEs;
-    SuperficieDialogo Pic_NroPiezas;
+    CuadroImagen Pic_NroPiezas;
     ListaDialogo Lis_NroPiezas;
-    SuperficieDialogo Pic_Cronometro;
-    SuperficieDialogo Pic_Sonido;
-    SuperficieDialogo Pic_Pistas;
-    SuperficieDialogo Pic_Velocidad;
-    SuperficieDialogo Pic_PorcVelocidad;
-    SuperficieDialogo Pic_No;
-    SuperficieDialogo Pic_Si;
+    CuadroImagen Pic_Cronometro;
+    CuadroImagen Pic_Sonido;
+    CuadroImagen Pic_Pistas;
+    CuadroImagen Pic_Velocidad;
+    CuadroImagen Pic_PorcVelocidad;
+    CuadroImagen Pic_No;
+    CuadroImagen Pic_Si;
 
     // --- the button placement page, indices 1..11 (0 unused) ---
-    SuperficieDialogo Pic_LugarBotones;
-    std::array<SuperficieDialogo, 12> Picture2;
+    CuadroImagen Pic_LugarBotones;
+    std::array<CuadroImagen, 12> Picture2;
     std::array<EtiquetaDialogo, 12> Lab_Botones;
-    std::array<SuperficieDialogo, 12> Pic_BotLugBot;
+    std::array<CuadroImagen, 12> Pic_BotLugBot;
     std::array<OpcionDialogo, 12> Opt_Siempre;
     std::array<OpcionDialogo, 12> Opt_Derecho;
-    SuperficieDialogo Pic_SalirPicBotones;
+    CuadroImagen Pic_SalirPicBotones;
 
     // --- hidden surfaces ---
-    SuperficieDialogo Pic_Comprobar; // the chosen file at its own size, or reduced
+    CuadroImagen Pic_Comprobar; // the chosen file at its own size, or reduced
     // The size the chosen file states, W and H of the size rules; Pic_Comprobar
     // holds a very large picture reduced.
     int32_t AnchoComprobar = 320, AltoComprobar = 240;
-    SuperficieDialogo Pic_OriginMem; // Pic_Origin as it was at the opening
-    SuperficieDialogo Pic_BmpVario;  // the strip of icons, arrows and keys, 318 x 24
+    CuadroImagen Pic_OriginMem; // Pic_Origin as it was at the opening
+    CuadroImagen Pic_BmpVario;  // the strip of icons, arrows and keys, 318 x 24
 
     // --- snapshot, taken at the opening ---
     std::string CopiaFicheroImagen;
@@ -192,8 +192,7 @@ class FormAbrirFic {
     bool AtiendeQueEs(int16_t tema);
     void CompruebaPistasAbrirfic();
     // The MouseMove of the controls that only take the pointing hand.
-    void PonManoSiNormal(ControlDialogo &control);
-    void PonManoSiNormal(Superficie &control);
+    void PonManoSiNormal(EstadoControl &control);
 
     // --- shared drawing ---
     void ImprimeTexto3D(Superficie &Pic, int16_t X, int16_t Y, const std::string &Texto);
@@ -208,7 +207,7 @@ class FormAbrirFic {
     void TomaCopia();
     void AbreCarpetaInicial();
     void BuscaImagenEnLista();
-    void PreparaPulsador(SuperficieDialogo &panel, const std::string &titulo, int16_t x, int16_t y,
+    void PreparaPulsador(CuadroImagen &panel, const std::string &titulo, int16_t x, int16_t y,
                          void (FormAbrirFic::*imprime)());
     void DibujaPrueba();
     void RellenaTextosSelector();
@@ -218,13 +217,13 @@ class FormAbrirFic {
     void AjustaZoom(int32_t w, int32_t h);
     void ImprimePorcentaje(Superficie &lectura, int16_t valor);
     enum class Paso { Ninguno, Sube, Baja };
-    void PulsaPaso(SuperficieDialogo &panel, PasosPorcentaje &p, int16_t &valor, int16_t tope,
+    void PulsaPaso(CuadroImagen &panel, PasosPorcentaje &p, int16_t &valor, int16_t tope,
                    int16_t suelo, void (FormAbrirFic::*imprime)(), bool conLimite, float X,
                    float Y);
-    void MueveSobrePaso(SuperficieDialogo &panel, PasosPorcentaje &p, float X, float Y);
-    void SueltaPaso(SuperficieDialogo &panel, PasosPorcentaje &p);
+    void MueveSobrePaso(CuadroImagen &panel, PasosPorcentaje &p, float X, float Y);
+    void SueltaPaso(CuadroImagen &panel, PasosPorcentaje &p);
     bool LimiteZoom(bool subiendo);
-    void MueveSobreSelector(SuperficieDialogo &pic, float X, float Y);
+    void MueveSobreSelector(CuadroImagen &pic, float X, float Y);
 };
 
 // Help topics of the dialog.

@@ -2,12 +2,12 @@
 #include "history/FormHistoric.h"
 
 #include "core/Plataforma.h"
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "history/Formatos.h"
 #include "history/ServiciosHistorico.h"
 #include "panels/TiempoCronometro.h"
 #include "raster/Raster.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 
@@ -74,13 +74,13 @@ FormHistoric::FormHistoric() : Formulario(ANCHO, ALTO, COLOR_TAPA) {
         carga(pagina, etiquetas);
     }
     Formulario.AsignaImagen(pagina);
-    for (Superficie &tapa : Pic_Tapa) {
-        tapa = Superficie(26, 1, COLOR_TAPA);
+    for (CuadroImagen &tapa : Pic_Tapa) {
+        tapa = CuadroImagen(26, 1, COLOR_TAPA);
     }
-    Pic_Parche1 = Superficie(ANCHO_PARCHE, ALTO_PARCHE, COLOR_BLANCO);
+    Pic_Parche1 = CuadroImagen(ANCHO_PARCHE, ALTO_PARCHE, COLOR_BLANCO);
     Pic_Parche1.AsignaImagen(etiquetas);
     Pic_Parche1.Visible = false;
-    Pic_Parche2 = Superficie(ANCHO_PARCHE, ALTO_PARCHE, COLOR_BLANCO);
+    Pic_Parche2 = CuadroImagen(ANCHO_PARCHE, ALTO_PARCHE, COLOR_BLANCO);
     Pic_Parche2.Visible = false;
 }
 

@@ -13,21 +13,17 @@
 #include <cstdint>
 #include <string>
 
+#include "core/Controles.h"
 #include "history/ListaOrdenada.h"
-#include "raster/Superficie.h"
 
 // Tex_Nombre: a text box, as plain state.
-struct TextoNombre {
-    int32_t Left = 0;
-    int32_t Top = 0;
-    int32_t Width = 89;
-    int32_t Height = 19;
-    bool Visible = false;
-    std::string Text;
-    void Move(int32_t left, int32_t top) {
-        Left = left;
-        Top = top;
+struct TextoNombre : ControlConTamano {
+    TextoNombre() {
+        Width = 89;
+        Height = 19;
+        Visible = false;
     }
+    std::string Text;
 };
 
 class FormHistoric {
@@ -44,13 +40,13 @@ class FormHistoric {
     // --- the form: its place on the screen, its own image and pointer ---
     int32_t Left = 0;
     int32_t Top = 0;
-    Superficie Formulario;
+    CuadroImagen Formulario;
     bool Descargado() const { return descargado_; }
 
     // --- controls ---
-    std::array<Superficie, 3> Pic_Tapa; // 1 left margin, 2 right margin
-    Superficie Pic_Parche1;             // the labels of a record, right page
-    Superficie Pic_Parche2;             // the same, left page
+    std::array<CuadroImagen, 3> Pic_Tapa; // 1 left margin, 2 right margin
+    CuadroImagen Pic_Parche1;             // the labels of a record, right page
+    CuadroImagen Pic_Parche2;             // the same, left page
     TextoNombre Tex_Nombre;
     ListaOrdenada Lis_Orden2, Lis_Orden3, Lis_Orden4;
 

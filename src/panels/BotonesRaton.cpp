@@ -1,8 +1,8 @@
 // Pointers over the command buttons.
 #include "panels/BotonesRaton.h"
 
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 
@@ -14,7 +14,7 @@ bool IndiceValido(int16_t indice) {
 
 // The hand where the button can act, no entry where it can't: commands 5
 // to 9 have nothing to do on a finished puzzle.
-void PonPunteroBoton(int16_t indice, Superficie &control) {
+void PonPunteroBoton(int16_t indice, EstadoControl &control) {
     const bool bloqueado = indice >= 5 && indice <= 9 && PuzzleCompleto != FALSO;
     if (!bloqueado && control.MousePointer == PUNTERO_PROHIBIDO) {
         PonCursor(control, "ManoIndice");

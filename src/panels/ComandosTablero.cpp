@@ -16,7 +16,7 @@ void MuestraOcultaModelo() {
     MarcaBoton(3, true);
     EsperaTiempo(5);
     ModeloVisible = !ModeloVisible;
-    Superficie &modelo = f.Pic_Muestra;
+    CuadroImagen &modelo = f.Pic_Muestra;
     if (ModeloVisible) {
         // Back at the foot of the view, wherever it had been dragged.
         modelo.Move((AnchoPantalla - modelo.Ancho()) / 2.0,
@@ -65,7 +65,7 @@ void MuestraPiezasOcultas() {
 }
 
 void MuestraTutor() {
-    Superficie &trabajo = teselari.Pic_Trabajo;
+    CuadroImagen &trabajo = teselari.Pic_Trabajo;
     MarcaBoton(8, true);
     PonEspera();
     const int16_t k = OrdenPiezas[1];

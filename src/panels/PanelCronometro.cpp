@@ -38,7 +38,7 @@ void EligeCursor(float x, float y) {
     if (CursorPanelNuevo == CursorPanel) {
         return;
     }
-    Superficie &panel = teselari.Pic_Cronome;
+    CuadroImagen &panel = teselari.Pic_Cronome;
     if (CursorPanelNuevo == CURSOR_NORMAL) {
         panel.MousePointer = PUNTERO_NORMAL;
     } else if (CursorPanelNuevo == CURSOR_MANO) {
@@ -56,7 +56,7 @@ void Timer1_Timer() {
         return;
     }
     ++SegundosCronometro;
-    Superficie &panel = teselari.Pic_Cronome;
+    CuadroImagen &panel = teselari.Pic_Cronome;
     panel.CajaLlena(4, 19, 4 + 53 - 1, 19 + 15 - 1, 0xC0C0C0);
     panel.CurrentX = 8;
     panel.CurrentY = 21;
@@ -80,7 +80,7 @@ void Pic_Cronome_MouseDown(int16_t, int16_t, float x, float y) {
         return;
     }
     FormTeselari &f = teselari;
-    Superficie &panel = f.Pic_Cronome;
+    CuadroImagen &panel = f.Pic_Cronome;
     AnteriorX = Redondea(x);
     AnteriorY = Redondea(y);
     EmpiezaArrastrePanel(f.BarraHor.Value() + panel.Left, f.BarraVer.Value() + panel.Top,
@@ -92,7 +92,7 @@ void Pic_Cronome_MouseDown(int16_t, int16_t, float x, float y) {
 void Pic_Cronome_MouseMove(int16_t boton, int16_t, float x, float y) {
     if (boton == 1 && ArrastrandoPanel != FALSO) {
         const FormTeselari &f = teselari;
-        const Superficie &panel = f.Pic_Cronome;
+        const CuadroImagen &panel = f.Pic_Cronome;
         MueveMarcoPanel(
             Redondea(static_cast<float>(f.BarraHor.Value() + panel.Left) + x - AnteriorX),
             Redondea(static_cast<float>(f.BarraVer.Value() + panel.Top) + y - AnteriorY));

@@ -1,9 +1,9 @@
 #include "panels/PanelModelo.h"
 
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "panels/ArrastrePanel.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 
@@ -11,7 +11,7 @@ void Pic_Muestra_MouseDown(int16_t boton, int16_t, float x, float y) {
     if (boton != 1) {
         return;
     }
-    Superficie &modelo = teselari.Pic_Muestra;
+    CuadroImagen &modelo = teselari.Pic_Muestra;
     AnteriorX = Redondea(x);
     AnteriorY = Redondea(y);
     EmpiezaArrastrePanel(modelo.Left, modelo.Top, modelo.Ancho(), modelo.Alto());
@@ -19,7 +19,7 @@ void Pic_Muestra_MouseDown(int16_t boton, int16_t, float x, float y) {
 }
 
 void Pic_Muestra_MouseMove(int16_t boton, int16_t, float x, float y) {
-    Superficie &modelo = teselari.Pic_Muestra;
+    CuadroImagen &modelo = teselari.Pic_Muestra;
     if (boton == 1) {
         // The model itself stays; only its frame follows the mouse.
         MueveMarcoPanel(Redondea(static_cast<float>(modelo.Left) + x - AnteriorX),
@@ -34,7 +34,7 @@ void Pic_Muestra_MouseUp(int16_t boton, int16_t, float, float) {
     if (boton != 1) {
         return;
     }
-    Superficie &modelo = teselari.Pic_Muestra;
+    CuadroImagen &modelo = teselari.Pic_Muestra;
     TerminaArrastrePanel();
     modelo.Move(PanelX, PanelY);
     modelo.MousePointer = PUNTERO_NORMAL;

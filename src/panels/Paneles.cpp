@@ -62,7 +62,7 @@ void DibujaBotonesSiempre() {
 
     int32_t x = 3, y = 3;
     for (int16_t i = 1; i <= 11; ++i) {
-        Superficie &boton = f.Pic_BotonSiempre[i];
+        CuadroImagen &boton = f.Pic_BotonSiempre[i];
         boton.Visible = false;
         if (!BotonEnSiempre[i]) {
             continue;
@@ -80,7 +80,7 @@ void DibujaBotonesSiempre() {
     f.Pic_BSInfo.CambiaTamano(columnas == 2 ? 114 : 56, b);
     f.Pic_BSInfo.Move(3, alto - 3 - b);
 
-    Superficie &panel = f.Pic_BotonesSiempre;
+    CuadroImagen &panel = f.Pic_BotonesSiempre;
     panel.Cls();
     panel.Move(izquierda, 0, ancho, alto);
     DibujaMarco(panel, ancho, alto);
@@ -116,7 +116,7 @@ void DibujaBotonesDerecho(float x, float y) {
 
     int32_t bx = 3, by = 3;
     for (int16_t i = 1; i <= 11; ++i) {
-        Superficie &boton = f.Pic_BotonDerecho[i];
+        CuadroImagen &boton = f.Pic_BotonDerecho[i];
         boton.Visible = false;
         if (!BotonEnDerecho[i]) {
             continue;
@@ -131,7 +131,7 @@ void DibujaBotonesDerecho(float x, float y) {
         by += PASO_BOTON;
     }
 
-    Superficie &panel = f.Pic_BotonesDerecho;
+    CuadroImagen &panel = f.Pic_BotonesDerecho;
     // Cleared first, so that a panel that changed its size since the last
     // time keeps nothing of the old frame.
     panel.Cls();

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <memory>
 
+#include "core/Controles.h"
 #include "core/Cronometro.h"
 #include "core/Plataforma.h"
 #include "core/Programa.h"
@@ -179,7 +180,7 @@ VentanaTeselari &Form_Load() {
     // The window covers the screen.
     ventana->MuestraPantallaCompleta();
     // The chronometer left of the always-visible panel.
-    Superficie &cronome = teselari.Pic_Cronome;
+    CuadroImagen &cronome = teselari.Pic_Cronome;
     cronome.Move(teselari.Pic_BotonesSiempre.Left - cronome.Ancho(), 0);
     cronome.Visible = Cronometro < 2;
     // The clock counts from the time restored; Timer1 ticks from now on.

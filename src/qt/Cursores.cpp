@@ -3,7 +3,7 @@
 #include <QGuiApplication>
 #include <QPixmap>
 
-#include "services/Sonidos.h"
+#include "core/Controles.h"
 
 QString RutaCursor(const std::string &nombre) {
     return QStringLiteral(":/teselari/cursores/") + QString::fromStdString(nombre).toLower() +

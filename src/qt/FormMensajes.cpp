@@ -40,9 +40,8 @@ void LineaDoble(Superficie &s, int x1, int y1, int x2, int y2, int dx, int dy, C
 
 // A button surface: grey face inside a sunken edge two pixels wide, the
 // image 3 pixels into the face.
-void DibujaBoton(Superficie &s, int16_t imagen) {
-    s = Superficie(LADO_BOTON, LADO_BOTON, GRIS_FORM);
-    s.MousePointer = 0;
+void DibujaBoton(CuadroImagen &s, int16_t imagen) {
+    s = CuadroImagen(LADO_BOTON, LADO_BOTON, GRIS_FORM);
     const int f = LADO_BOTON - 1;
     s.Line(0, 0, f, 0, GRIS_OSCURO);
     s.Line(0, 0, 0, f, GRIS_OSCURO);
@@ -110,18 +109,15 @@ FormMensajes::FormMensajes(const std::string &titulo, const std::string &texto, 
     // The buttons stand below the text's lines of 16 pixels.
     const int abajo = 50 + 16 * lineas_;
     if (botones_ == 1) {
-        Pic_Salir = CreaBoton(salir_, IMAGEN_SALIR);
-        Pic_Salir->move(ANCHO_FORM - LADO_BOTON - 15, abajo + 15);
+        Pic_Salir = CreaBoton(salir_, IMAGEN_SALIR, ANCHO_FORM - LADO_BOTON - 15, abajo + 15);
         Pic_Salir->AlSoltar = [this](int16_t b, int16_t, float, float) {
             if (b == 1 && botones_ == 1) {
                 Cierra(false, true);
             }
         };
     } else {
-        Pic_No = CreaBoton(no_, IMAGEN_RECHAZAR);
-        Pic_Si = CreaBoton(si_, IMAGEN_ACEPTAR);
-        Pic_Si->move(100, abajo + 13);
-        Pic_No->move(250, abajo + 13);
+        Pic_No = CreaBoton(no_, IMAGEN_RECHAZAR, 250, abajo + 13);
+        Pic_Si = CreaBoton(si_, IMAGEN_ACEPTAR, 100, abajo + 13);
         Pic_Si->AlSoltar = [this](int16_t b, int16_t, float, float) {
             if (b == 1) {
                 Cierra(true, true);
@@ -134,17 +130,20 @@ FormMensajes::FormMensajes(const std::string &titulo, const std::string &texto, 
         };
     }
     if (Pistas == 1) {
-        if (Pic_Si != nullptr) {
-            Pic_Si->setToolTip(QStringLiteral("Aceptar"));
-            Pic_No->setToolTip(QStringLiteral("Rechazar"));
-        } else {
-            Pic_Salir->setToolTip(QStringLiteral("Salir"));
+        si_.ToolTipText = "Aceptar";
+        no_.ToolTipText = "Rechazar";
+        salir_.ToolTipText = "Salir";
+    }
+    for (VistaSuperficie *boton : {Pic_Si, Pic_No, Pic_Salir}) {
+        if (boton != nullptr) {
+            boton->Sincroniza();
         }
     }
 }
 
-VistaSuperficie *FormMensajes::CreaBoton(Superficie &s, int16_t imagen) {
+VistaSuperficie *FormMensajes::CreaBoton(CuadroImagen &s, int16_t imagen, int x, int y) {
     DibujaBoton(s, imagen);
+    s.Move(x, y);
     auto *boton = new VistaSuperficie(s, this);
     boton->AlMover = [this, boton](int16_t, int16_t, float, float) { Boton_MouseMove(boton); };
     return boton;

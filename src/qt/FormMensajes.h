@@ -11,7 +11,7 @@
 #include <cstdint>
 #include <string>
 
-#include "raster/Superficie.h"
+#include "core/Controles.h"
 
 class QLabel;
 class VistaSuperficie;
@@ -41,7 +41,7 @@ class FormMensajes : public QDialog {
     void showEvent(QShowEvent *evento) override;
 
   private:
-    VistaSuperficie *CreaBoton(Superficie &s, int16_t imagen);
+    VistaSuperficie *CreaBoton(CuadroImagen &s, int16_t imagen, int x, int y);
     void DibujaMarcos();
     void Cierra(bool acepta, bool conSonido);
     void Boton_MouseMove(VistaSuperficie *boton);
@@ -50,7 +50,7 @@ class FormMensajes : public QDialog {
     int16_t botones_;
     bool respuesta_ = false;
     Superficie fondo_;
-    Superficie si_, no_, salir_;
+    CuadroImagen si_, no_, salir_;
 };
 
 // The hook of MuestraMensaje: shows the form modally and returns the answer.

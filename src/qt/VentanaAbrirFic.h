@@ -1,35 +1,49 @@
 // VentanaAbrirFic: the customisation dialog `AbrirFic` on the screen.
 //
 // A borderless modal dialog, 640 x 480, at the place the form's Left and Top
-// give. Its surfaces are VistaSuperficie widgets (framed where the form says
-// so); the drive list is a drop-down list, the folder, file and grid lists
-// are list boxes, the push buttons, option buttons and labels are Qt's own,
-// and the two red marks are outlines that let the mouse through. Every event
-// runs the form's handler and then mirrors the whole state back onto the
-// widgets; when a handler has unloaded the form the dialog closes.
+// give. Its picture boxes are VistaSuperficie widgets (framed where the form
+// says so); the drive list is a drop-down list, the folder, file and grid
+// lists are list boxes, the push buttons, option buttons and labels are
+// Qt's own, and the two red marks are outlines that let the mouse through.
+// Every event runs the form's handler and then mirrors the whole state back
+// onto the widgets; when a handler has unloaded the form the dialog closes.
+//
+// The widgets are made once, when the window is built, and each is linked
+// to its control: the window finds one from the other through maps, and
+// keeps, for every link, the routine that mirrors that control.
 //
 // In what's-this mode a press on any control shows that control's help
 // topic instead of acting; F1 shows the topic of the control under the mouse.
 // Escape and the window manager cannot close it: only Pic_Si and Pic_No can.
+// The source is split by topic: building and finding the widgets
+// (VentanaAbrirFic.cpp), the player's events (VentanaAbrirFicEventos.cpp)
+// and the mirroring (VentanaAbrirFicEspejo.cpp).
 #pragma once
 
 #include <QDialog>
 #include <functional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "core/Plataforma.h"
 
 class FormAbrirFic;
 class QComboBox;
+class QLabel;
 class QListWidget;
 class QPushButton;
 class QRadioButton;
-class QLabel;
+class QSinglePointEvent;
 class VistaSuperficie;
-struct ControlDialogo;
-struct SuperficieDialogo;
+struct EstadoControl;
+struct ControlConTamano;
+class CuadroImagen;
 class ListaDialogo;
+struct BotonDialogo;
+struct RectanguloDialogo;
+struct OpcionDialogo;
+struct EtiquetaDialogo;
 
 class VentanaAbrirFic : public QDialog {
     Q_OBJECT
@@ -45,11 +59,13 @@ class VentanaAbrirFic : public QDialog {
     void Atiende(const std::function<void()> &manejador);
 
     // The widget of a control by its name ("File1", "Pic_TipPuz(3)"...), or
-    // null; a surface of the form by its object.
+    // null.
     QWidget *Control(const std::string &nombre) const;
+    // The widget of a control of the form, or null.
+    QWidget *WidgetDe(const EstadoControl &control) const;
+    VistaSuperficie *VistaDe(const CuadroImagen &s) const;
 
     FormAbrirFic &Form() { return form_; }
-    VistaSuperficie *VistaDe(const SuperficieDialogo &s) const;
 
     // Escape and the window's close come here: only an unloaded form closes.
     void reject() override;
@@ -59,23 +75,53 @@ class VentanaAbrirFic : public QDialog {
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 
   private:
-    struct Enlace; // a control and its widget
+    // A control and its widget, with the routine that mirrors the one onto
+    // the other.
+    struct Enlace {
+        QWidget *widget = nullptr;
+        const EstadoControl *control = nullptr;
+        std::function<void()> refleja;
+    };
+
+    // --- building (VentanaAbrirFic.cpp) ---
     void Construye();
-    VistaSuperficie *Vista(SuperficieDialogo &s, const std::string &nombre);
-    QWidget *PadreDe(const std::string &padre) const;
-    void Registra(QWidget *w, ControlDialogo *c, const std::string &nombre);
+    void ConstruyeColumnaImagen();
+    void ConstruyeColumnaDerecha();
+    void ConstruyePaginaBotones();
+    VistaSuperficie *Vista(CuadroImagen &s);
+    template <class W, class C> W *Crea(C &control, std::function<void(W *, const C &)> refleja);
+    void Boton(BotonDialogo &b);
+    void Marca(RectanguloDialogo &r);
+    void Enlaza(QWidget *w, const EstadoControl &c, std::function<void()> refleja);
+    QWidget *PadreDe(const EstadoControl &c) const;
+    const EstadoControl *ControlDe(const QWidget *w) const;
+    int16_t TemaBajoRaton(bool queEs) const;
+
+    // --- events (VentanaAbrirFicEventos.cpp) ---
     void ConectaSuperficies();
+    void ConectaLista(QListWidget *w, ListaDialogo &l);
     void ConectaListas();
     void ConectaBotones();
-    void SincronizaControl(QWidget *w, const ControlDialogo &c);
+    bool AtiendeQueEs(QWidget *w);
+
+    // --- mirroring (VentanaAbrirFicEspejo.cpp) ---
+    static void ReflejaComun(QWidget *w, const ControlConTamano &c);
+    static void ReflejaBoton(QPushButton *w, const BotonDialogo &b);
+    static void ReflejaOpcion(QRadioButton *w, const OpcionDialogo &o);
+    static void ReflejaEtiqueta(QLabel *w, const EtiquetaDialogo &e);
     void SincronizaListas();
     void SincronizaLista(QListWidget *w, const ListaDialogo &l);
     void PonIconosCarpetas();
     void SincronizaCursorQueEs();
-    int16_t TemaBajoRaton(bool queEs) const;
 
     FormAbrirFic &form_;
-    std::vector<Enlace *> enlaces_;
+    std::vector<Enlace> enlaces_; // in the order the widgets were made
+    std::unordered_map<const EstadoControl *, QWidget *> widgetDe_;
+    std::unordered_map<const QWidget *, const EstadoControl *> controlDe_;
+    std::unordered_map<std::string, QWidget *> porNombre_;
+    // What a move over a widget other than a picture box runs: the pointing
+    // hand of a button or a list, the move handler of File1.
+    std::unordered_map<const QObject *, std::function<void(const QSinglePointEvent &)>> alMover_;
     QComboBox *drive1_ = nullptr;
     QListWidget *dir1_ = nullptr;
     QListWidget *file1_ = nullptr;

@@ -12,6 +12,7 @@
 #include "qt/Arranque.h"
 #include "qt/Cursores.h"
 #include "qt/ImagenQt.h"
+#include "qt/ReflejaControl.h"
 #include "qt/RotuladorQt.h"
 #include "qt/VistaSuperficie.h"
 #include "services/Ayuda.h"
@@ -78,13 +79,7 @@ void VentanaHistoric::Sincroniza() {
         v->Sincroniza();
     }
     const TextoNombre &t = form_.Tex_Nombre;
-    const QRect lugar(t.Left, t.Top, t.Width, t.Height);
-    if (texNombre_->geometry() != lugar) {
-        texNombre_->setGeometry(lugar);
-    }
-    if (texNombre_->isHidden() == t.Visible) {
-        texNombre_->setVisible(t.Visible);
-    }
+    ReflejaLugar(texNombre_, t);
     const QString texto = QString::fromStdString(t.Text);
     if (texNombre_->text() != texto) {
         const QSignalBlocker bloqueo(texNombre_);

@@ -9,6 +9,7 @@
 
 #include "core/PuzzGbl.h"
 #include "qt/Cursores.h"
+#include "qt/ReflejaControl.h"
 #include "qt/VistaSuperficie.h"
 #include "services/Ayuda.h"
 
@@ -30,9 +31,6 @@ VentanaTeselari::VentanaTeselari(QWidget *padre)
     Pic_Cuadrito = new VistaSuperficie(f.Pic_Cuadrito, this);
     Pic_BotonesSiempre = new VistaSuperficie(f.Pic_BotonesSiempre, this);
     Pic_BSInfo = new VistaSuperficie(f.Pic_BSInfo, Pic_BotonesSiempre);
-    // The count is framed: the sunken frame covers its outer two pixels, and
-    // its text is centred in the width within.
-    Pic_BSInfo->PonBorde(2);
     Pic_Cronome = new VistaSuperficie(f.Pic_Cronome, this);
     Pic_BotonesDerecho = new VistaSuperficie(f.Pic_BotonesDerecho, this);
     for (int i = 1; i <= 11; ++i) {
@@ -73,10 +71,7 @@ void VentanaTeselari::Atiende(const std::function<void()> &manejador) {
 }
 
 void VentanaTeselari::SincronizaBarra(QScrollBar *barra, const BarraDesplazamiento &estado) {
-    const QRect lugar(estado.Left, estado.Top, estado.Width, estado.Height);
-    if (barra->geometry() != lugar) {
-        barra->setGeometry(lugar);
-    }
+    ReflejaLugar(barra, estado);
     if (barra->minimum() != estado.Min() || barra->maximum() != estado.Max()) {
         barra->setRange(estado.Min(), estado.Max());
     }
@@ -84,9 +79,6 @@ void VentanaTeselari::SincronizaBarra(QScrollBar *barra, const BarraDesplazamien
     barra->setSingleStep(estado.SmallChange);
     if (barra->value() != estado.Value()) {
         barra->setValue(estado.Value());
-    }
-    if (barra->isHidden() == estado.Visible) {
-        barra->setVisible(estado.Visible);
     }
 }
 

@@ -7,8 +7,8 @@
 
 #include "qt/Cursores.h"
 
-VistaSuperficie::VistaSuperficie(Superficie &superficie, QWidget *padre)
-    : QWidget(padre), superficie_(superficie) {
+VistaSuperficie::VistaSuperficie(CuadroImagen &cuadro, QWidget *padre)
+    : QWidget(padre), cuadro_(cuadro) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     setMouseTracking(true);
@@ -17,11 +17,11 @@ VistaSuperficie::VistaSuperficie(Superficie &superficie, QWidget *padre)
 }
 
 VistaSuperficie::~VistaSuperficie() {
-    superficie_.AlCambiar = nullptr;
+    cuadro_.AlCambiar = nullptr;
 }
 
 void VistaSuperficie::Vigila() {
-    superficie_.AlCambiar = [this](const Rectangulo &r) {
+    cuadro_.AlCambiar = [this](const Rectangulo &r) {
         // A surface resized or moved by the logic shows its new place before
         // the drawing that follows is seen.
         if (AntesDeRepintar) {
@@ -34,48 +34,49 @@ void VistaSuperficie::Vigila() {
     };
 }
 
-void VistaSuperficie::PonBorde(int ancho) {
-    borde_ = ancho;
-    SincronizaLugar();
-    update();
-}
-
 int BordeDe(const QWidget *w) {
     const auto *vista = qobject_cast<const VistaSuperficie *>(w);
     return vista != nullptr ? vista->Borde() : 0;
 }
 
 void VistaSuperficie::SincronizaLugar() {
+    const int borde = cuadro_.Borde ? 2 : 0;
+    if (borde != borde_) {
+        borde_ = borde;
+        update();
+    }
     // Inside a framed parent the place counts from the frame's inner edge.
     const int dentro = BordeDe(parentWidget());
-    const QRect lugar(superficie_.Left + dentro, superficie_.Top + dentro, superficie_.Ancho(),
-                      superficie_.Alto());
+    const QRect lugar(cuadro_.Left + dentro, cuadro_.Top + dentro, cuadro_.Ancho(), cuadro_.Alto());
     if (geometry() != lugar) {
         setGeometry(lugar);
     }
-    if (isHidden() == superficie_.Visible) {
-        setVisible(superficie_.Visible);
+    if (isHidden() == cuadro_.Visible) {
+        setVisible(cuadro_.Visible);
         // A surface shown again is seen at once, even when no event runs
         // before the next pause (the blink of the attraction test).
-        if (superficie_.Visible && isVisible()) {
+        if (cuadro_.Visible && isVisible()) {
             repaint();
         }
     }
 }
 
 void VistaSuperficie::Sincroniza() {
-    if (!superficie_.AlCambiar) {
+    if (!cuadro_.AlCambiar) {
         Vigila();
     }
     SincronizaLugar();
-    if (puntero_ != superficie_.MousePointer || icono_ != superficie_.MouseIcon) {
-        puntero_ = superficie_.MousePointer;
-        icono_ = superficie_.MouseIcon;
+    if (puntero_ != cuadro_.MousePointer || icono_ != cuadro_.MouseIcon) {
+        puntero_ = cuadro_.MousePointer;
+        icono_ = cuadro_.MouseIcon;
         setCursor(CursorDePuntero(puntero_, icono_));
     }
-    const QString pista = QString::fromStdString(superficie_.ToolTipText);
+    const QString pista = QString::fromStdString(cuadro_.ToolTipText);
     if (toolTip() != pista) {
         setToolTip(pista);
+    }
+    if (isEnabled() != cuadro_.Enabled) {
+        setEnabled(cuadro_.Enabled);
     }
 }
 
@@ -86,8 +87,8 @@ void VistaSuperficie::paintEvent(QPaintEvent *evento) {
         p.translate(borde_, borde_);
         p.setClipRect(0, 0, width() - 2 * borde_, height() - 2 * borde_);
     }
-    const int ancho = superficie_.Ancho();
-    const int alto = superficie_.Alto();
+    const int ancho = cuadro_.Ancho();
+    const int alto = cuadro_.Alto();
     const QRect pedido = evento->rect().translated(-borde_, -borde_);
     if (ancho <= 0 || alto <= 0) {
         p.fillRect(pedido, Qt::white);
@@ -95,7 +96,7 @@ void VistaSuperficie::paintEvent(QPaintEvent *evento) {
     }
     // The rows of the surface are 0xFFRRGGBB words: an RGB32 image over them
     // without a copy.
-    const QImage imagen(reinterpret_cast<const uchar *>(superficie_.Fila(0)), ancho, alto,
+    const QImage imagen(reinterpret_cast<const uchar *>(cuadro_.Fila(0)), ancho, alto,
                         static_cast<qsizetype>(ancho) * 4, QImage::Format_RGB32);
     const QRect zona = pedido & QRect(0, 0, ancho, alto);
     p.drawImage(zona.topLeft(), imagen, zona);

@@ -1,13 +1,15 @@
-// VistaSuperficie: a widget that shows a Superficie on the screen.
+// VistaSuperficie: a widget that shows a picture box on the screen.
 //
 // The widget paints the surface's rows as they are, without a copy, and
-// stands where the surface's Left and Top say, at its size. It watches the
+// stands where the control's Left and Top say, at its surface's size, with
+// the control's visibility, Enabled, pointer and tooltip. It watches the
 // surface: every drawing operation on it is repainted at once, without the
 // event loop, so a deal or an automatic move is seen while it runs. Mouse
 // events go to the handlers in the game's terms: button 1 left, 2 right,
 // 4 middle, Shift 1 / Ctrl 2 / Alt 4, and surface pixel coordinates.
 //
-// A surface may carry the platform's sunken frame, two pixels wide: the
+// A picture box may carry the platform's sunken frame (Borde), two pixels
+// wide: the
 // widget keeps the surface's size, which is then the outer size, the frame
 // takes its outer two rows and columns, and the surface's pixels, its mouse
 // coordinates and its child controls start inside the frame (the last four
@@ -19,24 +21,24 @@
 #include <functional>
 #include <string>
 
-#include "raster/Superficie.h"
+#include "core/Controles.h"
 
 class VistaSuperficie : public QWidget {
     Q_OBJECT
   public:
     using Manejador = std::function<void(int16_t boton, int16_t shift, float x, float y)>;
 
-    VistaSuperficie(Superficie &superficie, QWidget *padre = nullptr);
+    VistaSuperficie(CuadroImagen &cuadro, QWidget *padre = nullptr);
     ~VistaSuperficie() override;
 
-    Superficie &Control() { return superficie_; }
+    CuadroImagen &Control() { return cuadro_; }
 
-    // The width of the sunken frame: 0 (flat, the default) or 2.
-    void PonBorde(int ancho);
+    // The width of the sunken frame: 0 (flat) or 2.
     int Borde() const { return borde_; }
 
-    // Mirrors place, size, visibility, pointer and tooltip of the surface
-    // onto the widget, and watches the surface again if it was replaced.
+    // Mirrors the control (place, size, frame, visibility, Enabled, pointer
+    // and tooltip) onto the widget, and watches the surface again if it was
+    // replaced.
     void Sincroniza();
 
     Manejador AlPulsar; // MouseDown
@@ -60,7 +62,7 @@ class VistaSuperficie : public QWidget {
     QPointF Punto(const QMouseEvent *evento) const;
     void SincronizaLugar();
 
-    Superficie &superficie_;
+    CuadroImagen &cuadro_;
     int borde_ = 0;
     int16_t puntero_ = -1;
     std::string icono_;

@@ -1,4 +1,4 @@
-// Superficie: construction, place and size, colours, picture, clip region,
+// Superficie: construction, size, colours, picture, clip region,
 // the checked pixel writer and the change report.
 #include "raster/Superficie.h"
 
@@ -10,7 +10,7 @@ namespace {
 // The largest side a surface takes; larger sizes are cut to it.
 constexpr double LADO_MAXIMO = 1048576.0; // 2^20
 
-// Sizes and places are rounded to the nearest whole pixel, halves to even
+// Sizes are rounded to the nearest whole pixel, halves to even
 // (std::nearbyint in the default rounding mode): 320.5 gives 320.
 
 // A size rounded to the nearest whole pixel; negative or not a number is 0.
@@ -21,29 +21,11 @@ int32_t TamanoRedondeado(double v) {
     return static_cast<int32_t>(std::nearbyint(std::min(v, LADO_MAXIMO)));
 }
 
-// A place rounded to the nearest whole pixel; the old one when v is unusable.
-int32_t PosicionRedondeada(double v, int32_t antes) {
-    if (!std::isfinite(v) || std::fabs(v) > 2147483520.0) {
-        return antes;
-    }
-    return static_cast<int32_t>(std::nearbyint(v));
-}
-
 } // namespace
 
 Superficie::Superficie(int32_t ancho, int32_t alto, Color fondo)
     : ancho_(std::max(ancho, 0)), alto_(std::max(alto, 0)), fondo_(fondo),
       pix_(static_cast<size_t>(ancho_) * alto_, APixel(fondo)) {}
-
-void Superficie::Move(double left, double top) {
-    Left = PosicionRedondeada(left, Left);
-    Top = PosicionRedondeada(top, Top);
-}
-
-void Superficie::Move(double left, double top, double ancho, double alto) {
-    Move(left, top);
-    CambiaTamano(ancho, alto);
-}
 
 void Superficie::CambiaTamano(double ancho, double alto) {
     const int32_t w = TamanoRedondeado(ancho);

@@ -6,9 +6,11 @@
 // 0x00BBGGRR, and the two are converted at the edge of this API: every colour
 // argument and every result of Point() is a game colour word.
 //
-// Besides the pixels a surface carries what the game sets on its controls:
-// place (Left, Top), Visible, background and drawing colours, DrawMode, fill
-// style, the current text position and font, and an optional clip region.
+// Besides the pixels a surface carries the drawing state of its device
+// context: background and drawing colours, DrawMode, fill style, the current
+// text position and font, and an optional clip region. Where a surface
+// stands, whether it shows and what it shows the mouse belong to the control
+// around it, not to the pixels.
 // All drawing, including blits into the surface, is clipped to the surface
 // and to the clip region when one is selected.
 //
@@ -42,23 +44,13 @@ class Superficie {
     Superficie() = default;
     Superficie(int32_t ancho, int32_t alto, Color fondo = COLOR_BLANCO);
 
-    // --- place and size (the control) ---
-    int32_t Left = 0;
-    int32_t Top = 0;
-    bool Visible = true;
+    // --- size ---
     int32_t Ancho() const { return ancho_; }
     int32_t Alto() const { return alto_; }
-    // Places the surface; with a size, resizes it too. Fractional places and
-    // sizes are rounded to whole pixels, halves to even. A resize keeps the pixels that stay inside
-    // and gives the new ones the background colour.
-    void Move(double left, double top);
-    void Move(double left, double top, double ancho, double alto);
+    // Resizes the surface. Fractional sizes are rounded to whole pixels,
+    // halves to even. A resize keeps the pixels that stay inside and gives
+    // the new ones the background colour.
     void CambiaTamano(double ancho, double alto);
-
-    // --- what the control shows the mouse, mirrored by the platform ---
-    int16_t MousePointer = 0; // 0 default, 11 hourglass, 12 no entry, 15 arrows, 99 custom
-    std::string MouseIcon;    // the custom cursor's name, upper case
-    std::string ToolTipText;
 
     // --- colours and styles ---
     Color BackColor() const { return fondo_; }

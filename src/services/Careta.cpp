@@ -46,7 +46,7 @@ void FormCareta::Form_Load(int32_t anchoPantalla, int32_t altoPantalla) {
     Height = altoPantalla;
     Pic_Todos.Move((anchoPantalla - ANCHO_TODOS) / 2, (altoPantalla - ALTO_TODOS) / 2);
     FinCareta = FALSO;
-    for (Superficie *s : {&Pic_Icono, &Pic_Bmp, &Pic_Logo}) {
+    for (CuadroImagen *s : {&Pic_Icono, &Pic_Bmp, &Pic_Logo}) {
         s->Move(anchoPantalla + 10, s->Top);
         s->Visible = false;
     }

@@ -16,7 +16,7 @@
 
 #include <cstdint>
 
-#include "raster/Superficie.h"
+#include "core/Controles.h"
 
 class FormCareta {
   public:
@@ -32,14 +32,14 @@ class FormCareta {
     // pixels; the frame about the viewport (Shape1, Line1, Line2) is drawn
     // into it. Its controls stand BORDE_TODOS pixels further in than their
     // places inside the panel say.
-    Superficie Pic_Todos;
+    CuadroImagen Pic_Todos;
     // The viewport, 287 x 150, at (15, 29) inside the panel: Left and Top
     // are its place on Pic_Todos's outer pixels.
-    Superficie Pic_Careta;
+    CuadroImagen Pic_Careta;
     // The sources, off the screen: 96 x 44, 32 x 32, 241 x 87.
-    Superficie Pic_Logo;
-    Superficie Pic_Icono;
-    Superficie Pic_Bmp;
+    CuadroImagen Pic_Logo;
+    CuadroImagen Pic_Icono;
+    CuadroImagen Pic_Bmp;
 
     int16_t FinCareta = 0; // flag: the splash must end
     int16_t Pasadas = 0;   // the pass under way, 1 or 2

@@ -1,6 +1,5 @@
 #include "services/Sonidos.h"
 
-#include <cctype>
 
 #include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
@@ -15,13 +14,4 @@ void ReproduceSonido(int16_t clip) {
         Plataforma().Sonido(clip);
     }
     PermiteEventos();
-}
-
-void PonCursor(Superficie &control, const std::string &nombre) {
-    std::string nuevo;
-    for (char c : nombre) {
-        nuevo += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    }
-    control.MousePointer = PUNTERO_PROPIO;
-    control.MouseIcon = nuevo;
 }
