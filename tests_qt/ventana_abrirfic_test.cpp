@@ -230,7 +230,7 @@ TEST_F(VentanaAbrirFicTest, QueEsDaElTemaDelControlEnVezDeActuar) {
     // A press on the closing control in that mode asks for its topic only.
     QTest::mouseClick(queEs, Qt::LeftButton);
     QTest::mousePress(ventana->VistaDe(form->Pic_Si), Qt::LeftButton, {}, QPoint(20, 20));
-    EXPECT_EQ(temas.back(), TEMA_DIALOGO);
+    EXPECT_EQ(temas.back(), TemasAyuda::Personalizar);
     EXPECT_FALSE(form->Descargado());
 }
 

@@ -32,7 +32,7 @@ FormTeselari::FormTeselari() {
 }
 
 void FormTeselari::Inicializa() {
-    MousePointer = 0;
+    MousePointer = PUNTERO_NORMAL;
     Configura(Pic_Origin, COLOR_BLANCO, COLOR_BLANCO, true);
     Configura(Pic_W, COLOR_BLANCO, COLOR_BLANCO, true);
     Configura(Pic_Bitmap, COLOR_BLANCO, COLOR_NEGRO, true);

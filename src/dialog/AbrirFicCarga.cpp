@@ -1,7 +1,7 @@
 // AbrirFic's opening: the snapshot, the folder, the panels drawn.
+#include "core/Controles.h"
 #include "core/Plataforma.h"
 #include "core/Programa.h"
-#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"

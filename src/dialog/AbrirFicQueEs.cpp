@@ -14,7 +14,7 @@ bool FormAbrirFic::AtiendeQueEs(int16_t tema) {
     }
     ModoQueEs = 0;
     MousePointer = PUNTERO_NORMAL;
-    MuestraAyuda(tema != 0 ? tema : TEMA_DIALOGO);
+    MuestraAyuda(tema != 0 ? tema : TemasAyuda::Personalizar);
     return true;
 }
 

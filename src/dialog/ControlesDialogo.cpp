@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <system_error>
 
-#include "core/Programa.h"
 #include "core/Controles.h"
+#include "core/Programa.h"
 #include "dialog/ServiciosDialogo.h"
 
 namespace fs = std::filesystem;

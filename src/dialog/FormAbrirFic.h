@@ -225,7 +225,3 @@ class FormAbrirFic {
     bool LimiteZoom(bool subiendo);
     void MueveSobreSelector(CuadroImagen &pic, float X, float Y);
 };
-
-// Help topics of the dialog.
-constexpr int16_t TEMA_DIALOGO = 1230;
-constexpr int16_t TEMA_OTROS = 1602;

@@ -1,8 +1,8 @@
 // Historic: its controls, its loading, the first page and a record's page.
 #include "history/FormHistoric.h"
 
-#include "core/Plataforma.h"
 #include "core/Controles.h"
+#include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 #include "history/Formatos.h"
 #include "history/ServiciosHistorico.h"

@@ -87,4 +87,3 @@ class FormHistoric {
     void MuestraSeccion(int16_t seccion);
     void AbreSeccionPorPestana(int16_t seccion);
 };
-

@@ -1,4 +1,5 @@
 // The look of a running command and the pointer of the screen.
+#include "core/Controles.h"
 #include "core/PuzzGbl.h"
 #include "panels/Ordenes.h"
 #include "panels/Paneles.h"
@@ -11,9 +12,9 @@ void MarcaBoton(int16_t boton, bool pulsado) {
 }
 
 void PonEspera() {
-    teselari.MousePointer = 11;
+    teselari.MousePointer = PUNTERO_ESPERA;
 }
 
 void QuitaEspera() {
-    teselari.MousePointer = 0;
+    teselari.MousePointer = PUNTERO_NORMAL;
 }

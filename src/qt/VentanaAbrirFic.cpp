@@ -243,7 +243,7 @@ int16_t VentanaAbrirFic::TemaBajoRaton(bool queEs) const {
             }
         }
     }
-    return TEMA_DIALOGO;
+    return TemasAyuda::Personalizar;
 }
 
 void VentanaAbrirFic::keyPressEvent(QKeyEvent *evento) {

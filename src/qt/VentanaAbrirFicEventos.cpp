@@ -7,6 +7,7 @@
 #include "dialog/FormAbrirFic.h"
 #include "qt/VentanaAbrirFic.h"
 #include "qt/VistaSuperficie.h"
+#include "services/Ayuda.h"
 
 void VentanaAbrirFic::Atiende(const std::function<void()> &manejador) {
     manejador();
@@ -194,7 +195,7 @@ bool VentanaAbrirFic::AtiendeQueEs(QWidget *w) {
         const EstadoControl *c = ControlDe(p);
         tema = c != nullptr ? c->WhatsThisHelpID : 0;
     }
-    Atiende([this, tema] { form_.AtiendeQueEs(tema != 0 ? tema : TEMA_DIALOGO); });
+    Atiende([this, tema] { form_.AtiendeQueEs(tema != 0 ? tema : TemasAyuda::Personalizar); });
     return true;
 }
 

@@ -1,6 +1,5 @@
 #include "services/Sonidos.h"
 
-
 #include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
 
