@@ -30,14 +30,14 @@ echo "== Includes of src/ point down"
 bash scripts/comprueba-capas.sh || fallos+=(capas)
 
 echo "== Release build"
-configura build/release -DCMAKE_BUILD_TYPE=Release -DTESELARI_SANITIZE=OFF \
+configura build/release -DCMAKE_BUILD_TYPE=Release -DTESELARI_SANITIZE=OFF -DTESELARI_ESTRICTO=ON \
     -DTESELARI_TESTS=ON -DTESELARI_BENCH=ON -DTESELARI_TOOLS=ON
 cmake --build build/release -j2
 echo "== Release tests"
 ctest --test-dir build/release --output-on-failure --no-tests=error -j2 || fallos+=(Release)
 
 echo "== Sanitizer build"
-configura build/sanitizers -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESELARI_SANITIZE=ON \
+configura build/sanitizers -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESELARI_SANITIZE=ON -DTESELARI_ESTRICTO=ON \
     -DTESELARI_TESTS=ON -DTESELARI_BENCH=OFF -DTESELARI_TOOLS=OFF
 cmake --build build/sanitizers -j2
 echo "== Sanitizer tests"

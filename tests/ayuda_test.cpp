@@ -64,7 +64,7 @@ TEST_F(Ayuda, ElUnoAbreElContenidoConElRelojParado) {
 
 // No other command opens the book.
 TEST_F(Ayuda, NingunOtroComandoAbreElLibro) {
-    for (int16_t b : {3, 4, 5, 6, 8, 12, 0}) {
+    for (const int16_t b : std::initializer_list<int16_t>{3, 4, 5, 6, 8, 12, 0}) {
         PulsaBoton(b);
     }
     EXPECT_TRUE(llamadas.empty());
@@ -72,7 +72,8 @@ TEST_F(Ayuda, NingunOtroComandoAbreElLibro) {
 
 // 0 and every number the book doesn't know lead to the contents.
 TEST(TemasDesconocidos, LlevanAlContenido) {
-    for (int16_t tema : {0, -1, 1, 1119, 1121, 1229, 1243, 1601, 1604, 32767}) {
+    for (const int16_t tema :
+         std::initializer_list<int16_t>{0, -1, 1, 1119, 1121, 1229, 1243, 1601, 1604, 32767}) {
         EXPECT_EQ(DestinoAyuda(tema), "indice.html") << tema;
     }
 }

@@ -63,7 +63,9 @@ inline CargaDeImagen CargadorBmp(const std::string &fichero, Superficie &destino
 // Every text printed, with the surface it went to.
 struct RotuladorDialogo : Rotulador {
     std::vector<std::pair<const Superficie *, std::string>> textos;
-    double Ancho(const Fuente &, const std::string &t) override { return 6.0 * t.size(); }
+    double Ancho(const Fuente &, const std::string &t) override {
+        return 6.0 * static_cast<double>(t.size());
+    }
     double Alto(const Fuente &, const std::string &) override { return 13.0; }
     void Dibuja(Superficie &s, const Fuente &, double, double, Color,
                 const std::string &t) override {

@@ -150,14 +150,14 @@ TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
 
 TEST_F(Dialogo, UnaPulsacionJuntoALaFlechaNoEsPaso) {
     Abre();
-    const int16_t antes = FactorPegado;
+    const int16_t factor = FactorPegado;
     for (auto [x, y] : {std::pair{113.f, 30.f}, {139.f, 30.f}, {120.f, 24.f}, {60.f, 30.f}}) {
         f->Pic_FactorPegado_MouseDown(1, 0, x, y);
     }
     // A corner of the arrow's image in the panel's grey is no hit either.
     f->Pic_FactorPegado.PSet(SUBE_X, SUBE_Y, 0xC0C0C0);
     f->Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y);
-    EXPECT_EQ(FactorPegado, antes);
+    EXPECT_EQ(FactorPegado, factor);
 }
 
 TEST_F(Dialogo, ElZoomQueSaleDeLosLimitesVuelveAtrasConMensaje) {

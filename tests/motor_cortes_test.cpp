@@ -239,8 +239,8 @@ TEST_P(CorteIrregular, MascarasRectasEnElBordeYCubrenElPuzzle) {
     // The pieces close up: almost nothing of the puzzle is left out (the
     // socket is a little wider than its knob), and neighbours meet on their
     // shared outline, about one pixel along each joint, knobs included.
-    EXPECT_LE(sinCubrir / area, 0.005);
-    EXPECT_LE(solapados / juntas, 1.5);
+    EXPECT_LE(static_cast<double>(sinCubrir) / area, 0.005);
+    EXPECT_LE(static_cast<double>(solapados) / juntas, 1.5);
     EXPECT_GT(solapados, 0u);
 }
 

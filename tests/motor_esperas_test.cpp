@@ -63,7 +63,7 @@ TEST_F(Esperas, EsperaTiempoSigueLaVelocidad) {
             Velocidad = c.velocidad;
             Arranca(hora, 0.001);
             EsperaTiempo(c.centesimas);
-            const double pasado = (lecturas - 1) * 0.001;
+            const double pasado = static_cast<double>(lecturas - 1) * 0.001;
             EXPECT_NEAR(pasado, c.segundos, 0.0105) << c.velocidad << " " << c.centesimas;
         }
     }
@@ -103,7 +103,7 @@ TEST_F(Esperas, EsperaVueltasTerminaAunqueCruceMedianoche) {
     for (double hora : {500.0, SEGUNDOS_DIA - 0.01}) {
         Arranca(hora, 0.0001);
         EsperaVueltas(100);
-        EXPECT_NEAR((lecturas - 1) * 0.0001, esperado, 0.0002) << hora;
+        EXPECT_NEAR(static_cast<double>(lecturas - 1) * 0.0001, esperado, 0.0002) << hora;
     }
 }
 

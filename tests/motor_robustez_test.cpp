@@ -19,7 +19,7 @@ class TamanosExtremos : public Motor, public ::testing::WithParamInterface<CasoT
 TEST_P(TamanosExtremos, TodosLosCortesYRejillas) {
     const CasoTamano c = GetParam();
     for (int16_t tipo = 0; tipo <= 5; ++tipo) {
-        for (int16_t lado : {3, 7, 20}) {
+        for (const int16_t lado : std::initializer_list<int16_t>{3, 7, 20}) {
             PreparaJuego(lado, tipo, c.ancho, c.alto, 800, 600);
             PreparaBitmap();
             ASSERT_EQ(static_cast<int32_t>(Piezas.size()), NroPiezas + 1);

@@ -22,7 +22,9 @@ namespace {
 class RotuladorDePrueba : public Rotulador {
   public:
     std::vector<std::pair<double, std::string>> impresos;
-    double Ancho(const Fuente &, const std::string &t) override { return 6.0 * t.size(); }
+    double Ancho(const Fuente &, const std::string &t) override {
+        return 6.0 * static_cast<double>(t.size());
+    }
     double Alto(const Fuente &, const std::string &) override { return 13.0; }
     void Dibuja(Superficie &, const Fuente &, double x, double, Color,
                 const std::string &t) override {
@@ -139,7 +141,8 @@ TEST_P(Reparto, MuestraPiezaIgualEnTrabajoQueEnImagen) {
     const CasoJuego c = GetParam();
     PreparaJuego(c.n, c.tipo, c.ancho, c.alto);
     PreparaBitmap();
-    for (int16_t i : {int16_t{1}, static_cast<int16_t>(NroPiezas / 2), NroPiezas}) {
+    for (const int16_t i : std::initializer_list<int16_t>{
+             int16_t{1}, static_cast<int16_t>(NroPiezas / 2), NroPiezas}) {
         if (TipoPieza != 0) {
             EnmascaraPieza(i);
         }
@@ -200,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(Juegos, Reparto, ::testing::ValuesIn(JUEGOS),
 TEST_F(Motor, LevantarUnaPiezaSobreElMarcoDejaElMarcoEntero) {
     // Pieces dropped over the frame's corner, its right line and its bottom
     // line: lifting one brings back exactly the frame under it.
-    for (int16_t tipo : {0, 1, 2}) {
+    for (const int16_t tipo : std::initializer_list<int16_t>{0, 1, 2}) {
         PreparaJuego(4, tipo, 400, 300);
         PreparaBitmap();
         Pieza &q = Piezas[OrdenPiezas[1]];
@@ -279,7 +282,7 @@ TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
         ASSERT_EQ(r.impresos.size(), 1u);
         EXPECT_EQ(r.impresos[0].second, c.texto);
         // Centred on the 56-pixel panel, less its 4-pixel frame.
-        const double ancho = 6.0 * std::string(c.texto).size();
+        const double ancho = 6.0 * static_cast<double>(std::string(c.texto).size());
         EXPECT_EQ(r.impresos[0].first, DivEntera(Redondea(56 - 4 - ancho), 2));
         EXPECT_EQ(teselari.Pic_BSInfo.CurrentY, 3);
     }

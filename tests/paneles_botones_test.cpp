@@ -106,7 +106,7 @@ TEST_P(PanelSiempre, SeDisponeSegunElAltoDePantalla) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Disposicion, PanelSiempre, ::testing::ValuesIn(casos_siempre),
-                         [](const auto &info) { return std::string(info.param.nombre); });
+                         [](const auto &caso) { return std::string(caso.param.nombre); });
 
 TEST_F(Paneles, ElPanelNoTapaElCronometro) {
     struct Caso {
@@ -191,7 +191,7 @@ TEST_P(PanelDerecho, SeAbreJuntoAlRatonSinSalirDeLaPantalla) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Esquinas, PanelDerecho, ::testing::ValuesIn(casos_derecho),
-                         [](const auto &info) { return std::string(info.param.nombre); });
+                         [](const auto &caso) { return std::string(caso.param.nombre); });
 
 TEST_F(Paneles, SinBotonesElPanelDerechoNoSeAbre) {
     BotonEnDerecho.fill(false);

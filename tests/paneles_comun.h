@@ -84,7 +84,9 @@ class RotuladorRegistro : public Rotulador {
         std::string texto;
     };
     std::vector<Texto> textos;
-    double Ancho(const Fuente &, const std::string &t) override { return 6.0 * t.size(); }
+    double Ancho(const Fuente &, const std::string &t) override {
+        return 6.0 * static_cast<double>(t.size());
+    }
     double Alto(const Fuente &, const std::string &) override { return 13.0; }
     void Dibuja(Superficie &, const Fuente &f, double x, double y, Color c,
                 const std::string &t) override {

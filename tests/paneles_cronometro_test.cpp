@@ -164,7 +164,7 @@ TEST_P(TeclaCronometro, ActuaSoloDondeCambiaElEstado) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Teclas, TeclaCronometro, ::testing::ValuesIn(casos_tecla),
-                         [](const auto &info) { return std::string(info.param.nombre); });
+                         [](const auto &caso) { return std::string(caso.param.nombre); });
 
 TEST_F(PanelCronometro, ElPunteroSoloCambiaCuandoCambiaLaZona) {
     ArrancaCronometro();
@@ -254,7 +254,7 @@ TEST_P(LimitesCronometro, ElMarcoNoSaleDeLaVista) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Arrastre, LimitesCronometro, ::testing::ValuesIn(casos_limite),
-                         [](const auto &info) { return std::string(info.param.nombre); });
+                         [](const auto &caso) { return std::string(caso.param.nombre); });
 
 TEST_F(PanelCronometro, SinArrastreElBotonArribaNoHaceNada) {
     Pic_Cronome_MouseUp(1, 0, 300, 300);

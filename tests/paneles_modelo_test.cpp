@@ -20,7 +20,7 @@ class PanelModelo : public Motor {
 
 TEST_F(PanelModelo, SoloElBotonIzquierdoArrastra) {
     FormTeselari &f = teselari;
-    for (int16_t boton : {2, 4}) {
+    for (const int16_t boton : std::initializer_list<int16_t>{2, 4}) {
         Pic_Muestra_MouseDown(boton, 0, 10, 10);
         Pic_Muestra_MouseMove(boton, 0, 60, 30);
         Pic_Muestra_MouseUp(boton, 0, 60, 30);
@@ -103,6 +103,6 @@ TEST_P(LimitesModelo, ElMarcoNoSaleDeLaVista) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Arrastre, LimitesModelo, ::testing::ValuesIn(casos_modelo),
-                         [](const auto &info) { return std::string(info.param.nombre); });
+                         [](const auto &caso) { return std::string(caso.param.nombre); });
 
 } // namespace

@@ -223,7 +223,7 @@ TEST_F(Pulsa, UnPuzzleCompletoNoBloqueaLosDemas) {
 }
 
 TEST_F(Pulsa, OtrosNumerosSoloTerminanLosModos) {
-    for (int16_t b : {0, 12, -1}) {
+    for (const int16_t b : std::initializer_list<int16_t>{0, 12, -1}) {
         EnciendeModo(ModoOrdenar, 7);
         const std::vector<Pieza> piezas = Piezas;
         PulsaBoton(b);

@@ -86,10 +86,10 @@ TEST(RasterLineas, CajaConEsquinasYRelleno) {
             s.RellenaFiguras = rellena;
             s.FillColor = 0x00FF00;
             s.Caja(c.x1, c.y1, c.x2, c.y2, 0x0000FF);
-            const int32_t l = std::lround(std::min(c.x1, c.x2)),
-                          r = std::lround(std::max(c.x1, c.x2));
-            const int32_t t = std::lround(std::min(c.y1, c.y2)),
-                          b = std::lround(std::max(c.y1, c.y2));
+            const auto l = static_cast<int32_t>(std::lround(std::min(c.x1, c.x2))),
+                       r = static_cast<int32_t>(std::lround(std::max(c.x1, c.x2)));
+            const auto t = static_cast<int32_t>(std::lround(std::min(c.y1, c.y2))),
+                       b = static_cast<int32_t>(std::lround(std::max(c.y1, c.y2)));
             for (int32_t y = 0; y < 10; ++y) {
                 for (int32_t x = 0; x < 12; ++x) {
                     const bool dentro = x >= l && x <= r && y >= t && y <= b;

@@ -52,7 +52,7 @@ TEST(RasterRellenos, IgualQueUnaBusquedaSencilla) {
                 s.Fila(y)[x] = APixel(colores[azar() % 100 < 45]);
             }
         }
-        const int32_t x = azar() % 23, y = azar() % 17;
+        const auto x = static_cast<int32_t>(azar() % 23), y = static_cast<int32_t>(azar() % 17);
         const uint32_t semilla = s.Fila(y)[x];
         const bool superficie = caso % 2 == 0;
         s.FillColor = caso % 3 == 0 ? colores[1] : 0xABCDEF;
@@ -62,7 +62,7 @@ TEST(RasterRellenos, IgualQueUnaBusquedaSencilla) {
         Superficie esperado = s;
         for (size_t i = 0; i < area.size(); ++i) {
             if (area[i]) {
-                esperado.Fila(i / 23)[i % 23] = APixel(s.FillColor);
+                esperado.Fila(static_cast<int32_t>(i / 23))[i % 23] = APixel(s.FillColor);
             }
         }
         const int r = superficie ? ExtFloodFill(s, x, y, AColor(semilla), FLOODFILLSURFACE)

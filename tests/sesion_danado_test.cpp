@@ -138,6 +138,6 @@ TEST_F(SesionDanada, UnNroPiezasDistintoNoCuentaLasLineas) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Danos, SesionDanada, ::testing::ValuesIn(CASOS),
-                         [](const auto &info) { return std::string(info.param.nombre); });
+                         [](const auto &caso) { return std::string(caso.param.nombre); });
 
 } // namespace

@@ -60,14 +60,14 @@ TEST_P(SesionIdaYVuelta, LaPartidaGuardadaVuelveIgual) {
     Barajar();
     SesionRestaurando = FALSO;
     const uint64_t tablero = Huella(teselari.Pic_Imagen);
-    const Foto antes = TomaFoto();
+    const Foto guardada = TomaFoto();
     GuardaSesion();
 
     PreparaPantalla();
     DirectorioTrabajo = programa;
     RestauraSesion();
     EXPECT_TRUE(mensajes.empty());
-    EXPECT_EQ(TomaFoto(), antes);
+    EXPECT_EQ(TomaFoto(), guardada);
     EXPECT_EQ(ImagenValida, VERDADERO);
     EXPECT_EQ(SesionRestaurando, FALSO);
     EXPECT_EQ(teselari.Pic_Origin.Ancho(), 480);

@@ -127,7 +127,7 @@ TEST_P(SesionError, UnMensajeYElPrimerInicio) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Errores, SesionError, ::testing::ValuesIn(CASOS_ERROR),
-                         [](const auto &info) { return std::string(info.param.nombre); });
+                         [](const auto &caso) { return std::string(caso.param.nombre); });
 
 struct CasoTamano {
     int32_t w, h;

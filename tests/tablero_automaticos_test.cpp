@@ -131,7 +131,7 @@ TEST_P(Ordenar, LasColocadasNoSeMuevenYSeHundenEnLaPila) {
     EXPECT_EQ(Pila(), esperada);
     const int32_t tx =
         teselari.Pic_Trabajo.Ancho() - teselari.Pic_BotonesSiempre.Ancho() - AnchoPiezaTotal;
-    const int32_t sy = Int(1.1f * AltoPiezaTotal);
+    const int32_t sy = Int(1.1f * static_cast<float>(AltoPiezaTotal));
     for (int16_t k = 1; k <= NroPiezas; ++k) {
         const auto f = std::find(fuera.begin(), fuera.end(), k);
         if (f == fuera.end()) {
@@ -219,7 +219,7 @@ TEST_P(Resolver, TodasASuSitioYLaPilaComoEstaba) {
             ++fuera;
         }
     }
-    for (int16_t i : {3, 9, 14, 2, 7}) {
+    for (const int16_t i : std::initializer_list<int16_t>{3, 9, 14, 2, 7}) {
         PiezaPrioritaria(i);
     }
     RepintaTablero();

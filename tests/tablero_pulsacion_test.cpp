@@ -46,7 +46,7 @@ TEST_P(Pulsacion, LaPiezaPulsadaSubeYSigueAlRatonHastaSoltarla) {
         ASSERT_EQ(teselari.Pic_Mascara.Point(x0, y0), COLOR_NEGRO);
     }
     ParaCronometro();
-    Pic_Trabajo_MouseDown(1, 0, x0 + 0.4f, y0 - 0.4f);
+    Pic_Trabajo_MouseDown(1, 0, static_cast<float>(x0) + 0.4f, static_cast<float>(y0) - 0.4f);
     EXPECT_EQ(OrdenPiezas[1], k);
     EXPECT_EQ(PiezaLevantada, VERDADERO);
     EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{5});
@@ -56,10 +56,11 @@ TEST_P(Pulsacion, LaPiezaPulsadaSubeYSigueAlRatonHastaSoltarla) {
     EXPECT_EQ(PulsacionX, x0);
     EXPECT_EQ(PulsacionY, y0);
     for (int32_t paso = 1; paso <= 4; ++paso) {
-        Pic_Trabajo_MouseMove(1, 0, x0 + 120.0f * paso, y0 + 70.0f * paso);
+        Pic_Trabajo_MouseMove(1, 0, static_cast<float>(x0 + 120 * paso),
+                              static_cast<float>(y0 + 70 * paso));
         EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, ImagenConLaPiezaEnLaMano())) << paso;
     }
-    Pic_Trabajo_MouseUp(1, 0, x0 + 480, y0 + 280);
+    Pic_Trabajo_MouseUp(1, 0, static_cast<float>(x0 + 480), static_cast<float>(y0 + 280));
     EXPECT_EQ(Piezas[k].X, Piezas[k].XCorrecta + 480);
     EXPECT_EQ(Piezas[k].Y, Piezas[k].YCorrecta + 280);
     EXPECT_EQ(PiezasColocadas, NroPiezas - 1);
@@ -120,7 +121,7 @@ TEST_F(Tablero, CerrarElPanelAlCogerUnaPiezaDejaLaPiezaALaVista) {
     PreparaTablero(4, 1, 400, 300);
     teselari.Pic_BotonesDerecho.Visible = true;
     const int32_t x = Piezas[7].X + AnchoPieza / 2, y = Piezas[7].Y + AltoPieza / 2;
-    Pic_Trabajo_MouseDown(1, 0, x, y);
+    Pic_Trabajo_MouseDown(1, 0, static_cast<float>(x), static_cast<float>(y));
     EXPECT_FALSE(teselari.Pic_BotonesDerecho.Visible);
     EXPECT_EQ(OrdenPiezas[1], 7);
     EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, ImagenConLaPiezaEnLaMano()));
@@ -148,10 +149,10 @@ TEST_F(Tablero, TrasElFinalLaPulsacionDevuelveLosContornos) {
     // The last piece home: the end of the game, its message over the clean
     // picture.
     Pic_Trabajo_MouseDown(1, 0, 610, 410);
-    Pic_Trabajo_MouseMove(1, 0, 610 - 600 + Piezas[4].XCorrecta + 4,
-                          410 - 400 + Piezas[4].YCorrecta - 3);
-    Pic_Trabajo_MouseUp(1, 0, 610 - 600 + Piezas[4].XCorrecta + 4,
-                        410 - 400 + Piezas[4].YCorrecta - 3);
+    const auto xc = static_cast<float>(610 - 600 + Piezas[4].XCorrecta + 4);
+    const auto yc = static_cast<float>(410 - 400 + Piezas[4].YCorrecta - 3);
+    Pic_Trabajo_MouseMove(1, 0, xc, yc);
+    Pic_Trabajo_MouseUp(1, 0, xc, yc);
     ASSERT_EQ(escritorio.mensajes.size(), 1u);
     EXPECT_EQ(escritorio.mensajes[0].texto, "Ha conseguido resolver el puzzle");
     EXPECT_EQ(PuzzleCompleto, VERDADERO);

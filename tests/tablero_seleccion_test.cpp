@@ -171,7 +171,7 @@ TEST_F(Tablero, ElCursorDiceSiLaPiezaDebajoEstaEnSuSitio) {
     };
     for (const Caso &c : casos) {
         CursorPanel = 1;
-        Pic_Trabajo_MouseMove(0, 0, c.x, c.y);
+        Pic_Trabajo_MouseMove(0, 0, static_cast<float>(c.x), static_cast<float>(c.y));
         EXPECT_EQ(CursorTrabajo, c.cursor) << c.que;
         EXPECT_EQ(t.MousePointer, c.puntero) << c.que;
         if (c.puntero == PUNTERO_PROPIO) {
@@ -231,7 +231,7 @@ TEST_P(Arrastre, ElTableroEsLaImagenMasLaPiezaEnLaMano) {
                             {x0 + 190, y0 + 160},
                             {x0 + 600, y0 + 300}};
     for (const Punto &p : camino) {
-        Pic_Trabajo_MouseMove(1, 0, p.first, p.second);
+        Pic_Trabajo_MouseMove(1, 0, static_cast<float>(p.first), static_cast<float>(p.second));
         EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, ImagenConLaPiezaEnLaMano()))
             << p.first << ", " << p.second;
     }

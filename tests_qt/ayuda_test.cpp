@@ -148,7 +148,7 @@ TEST_F(Ventana, AbreCadaTemaEnSuAncla) {
         EXPECT_EQ(url.fragment(), QStringLiteral("t%1").arg(tema));
         EXPECT_TRUE(LeePagina(url.fileName()).anclas.contains(url.fragment())) << tema;
     }
-    for (int16_t tema : {0, 1, 1243, -5}) {
+    for (const int16_t tema : std::initializer_list<int16_t>{0, 1, 1243, -5}) {
         MuestraAyuda(tema);
         EXPECT_EQ(Abierta().Texto->source(),
                   QUrl(QStringLiteral("qrc:/teselari/ayuda/indice.html")))

@@ -102,8 +102,8 @@ INSTANTIATE_TEST_SUITE_P(
                       Muestra{"cuartos_rle4.bmp", 46, 30, 0}, Muestra{"cuartos.rle", 52, 40, 0},
                       Muestra{"cuartos.jpg", 64, 48, 40}, Muestra{"cuartos.wmf", 80, 60, 8},
                       Muestra{"poligonos.wmf", 88, 66, 8}, Muestra{"cuartos.emf", 72, 54, 8}),
-    [](const auto &info) {
-        std::string n = info.param.nombre;
+    [](const auto &caso) {
+        std::string n = caso.param.nombre;
         for (char &c : n) {
             c = std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
         }
@@ -257,8 +257,8 @@ TEST_P(Corpus, AcabaEnBlancoOEnRechazoSinPixelesSueltos) {
     EXPECT_TRUE(TodoBlanco(s)) << d.nombre;
 }
 
-INSTANTIATE_TEST_SUITE_P(Danados, Corpus, ::testing::ValuesIn(CORPUS), [](const auto &info) {
-    std::string n = info.param.nombre;
+INSTANTIATE_TEST_SUITE_P(Danados, Corpus, ::testing::ValuesIn(CORPUS), [](const auto &caso) {
+    std::string n = caso.param.nombre;
     for (char &c : n) {
         c = std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
     }
@@ -300,7 +300,7 @@ QByteArray RleConSaltos() {
     QByteArray b("BM");
     auto pon32 = [&b](uint32_t v) { b.append(reinterpret_cast<const char *>(&v), 4); };
     auto pon16 = [&b](uint16_t v) { b.append(reinterpret_cast<const char *>(&v), 2); };
-    pon32(14 + 40 + 8 + datos.size());
+    pon32(static_cast<uint32_t>(14 + 40 + 8 + datos.size()));
     pon32(0);
     pon32(14 + 40 + 8);
     for (uint32_t v : {40u, 40u, 20u}) {

@@ -43,7 +43,7 @@ std::vector<Mensaje> TodosLosMensajes() {
     for (const char *carpeta : {"Fotografías del viaje", "FotografíasDelViajeDeVerano", "Фото"}) {
         m.push_back(MensajeImagenPerdida(RutaLarga(carpeta)));
     }
-    for (int16_t numero : {7, 53, 68, 76, 32767}) {
+    for (const int16_t numero : std::initializer_list<int16_t>{7, 53, 68, 76, 32767}) {
         m.push_back(MensajeErrorIni(numero, "/media/jugador/DISCO EXTERNO DE FOTOGRAFÍAS"));
         m.push_back(MensajeErrorHis(numero, "/media/jugador/DISCO EXTERNO DE FOTOGRAFÍAS"));
     }

@@ -93,9 +93,10 @@ void Pic_Cronome_MouseMove(int16_t boton, int16_t, float x, float y) {
     if (boton == 1 && ArrastrandoPanel != FALSO) {
         const FormTeselari &f = teselari;
         const CuadroImagen &panel = f.Pic_Cronome;
-        MueveMarcoPanel(
-            Redondea(static_cast<float>(f.BarraHor.Value() + panel.Left) + x - AnteriorX),
-            Redondea(static_cast<float>(f.BarraVer.Value() + panel.Top) + y - AnteriorY));
+        MueveMarcoPanel(Redondea(static_cast<float>(f.BarraHor.Value() + panel.Left) + x -
+                                 static_cast<float>(AnteriorX)),
+                        Redondea(static_cast<float>(f.BarraVer.Value() + panel.Top) + y -
+                                 static_cast<float>(AnteriorY)));
         return;
     }
     EligeCursor(x, y);

@@ -22,8 +22,9 @@ void Pic_Muestra_MouseMove(int16_t boton, int16_t, float x, float y) {
     CuadroImagen &modelo = teselari.Pic_Muestra;
     if (boton == 1) {
         // The model itself stays; only its frame follows the mouse.
-        MueveMarcoPanel(Redondea(static_cast<float>(modelo.Left) + x - AnteriorX),
-                        Redondea(static_cast<float>(modelo.Top) + y - AnteriorY));
+        MueveMarcoPanel(
+            Redondea(static_cast<float>(modelo.Left) + x - static_cast<float>(AnteriorX)),
+            Redondea(static_cast<float>(modelo.Top) + y - static_cast<float>(AnteriorY)));
     }
     if (modelo.MousePointer == PUNTERO_NORMAL && boton == 0) {
         PonCursor(modelo, "ManoBlanca");

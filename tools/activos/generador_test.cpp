@@ -190,7 +190,7 @@ TEST(Sonidos, ElRechazoEsGraveYElGolpeEsBreve) {
     for (size_t i = 1; i < r.size(); ++i) {
         cruces += (r[i - 1] < 0) != (r[i] < 0) ? 1 : 0;
     }
-    const double hz = cruces / 2.0 / (r.size() / 8000.0);
+    const double hz = cruces / 2.0 / (static_cast<double>(r.size()) / 8000.0);
     EXPECT_GT(hz, 80);
     EXPECT_LT(hz, 400);
     // The piece placed: its energy lies at the start.
