@@ -1,6 +1,6 @@
-// The generator's parts: its randomness and noise, the composition of the
-// button images, the synthesis of the clips, and a whole run that must give
-// back the assets committed.
+// The generator's parts: the composition of the button images, the clips'
+// sound, the text, and a whole run that must give back the assets committed
+// (which also guards the randomness and noise every picture is drawn from).
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -13,14 +13,12 @@
 #include <sstream>
 #include <vector>
 
-#include "Azar.h"
 #include "ComparaImagenes.h"
 #include "Escritura.h"
 #include "Iconos.h"
 #include "Letras.h"
 #include "Muestras.h"
 #include "Sonidos.h"
-#include "Texturas.h"
 
 namespace {
 
@@ -44,82 +42,6 @@ void AseguraAplicacion() {
 }
 
 } // namespace
-
-// --- randomness and noise ---
-
-TEST(Azar, LaMismaSemillaDaLaMismaSerieYOtraNo) {
-    Azar a(5), b(5), c(6);
-    int iguales = 0;
-    for (int k = 0; k < 100; ++k) {
-        const uint64_t x = a.Siguiente();
-        EXPECT_EQ(x, b.Siguiente());
-        iguales += x == c.Siguiente() ? 1 : 0;
-    }
-    EXPECT_EQ(iguales, 0);
-}
-
-TEST(Azar, RangosCerradosYSemiabiertos) {
-    Azar a(11);
-    bool bajo = false, alto = false;
-    double suma = 0;
-    for (int k = 0; k < 20000; ++k) {
-        const double r = a.Real();
-        ASSERT_GE(r, 0.0);
-        ASSERT_LT(r, 1.0);
-        suma += r;
-        const int e = a.Entero(3, 7);
-        ASSERT_GE(e, 3);
-        ASSERT_LE(e, 7);
-        bajo = bajo || e == 3;
-        alto = alto || e == 7;
-        const double en = a.Entre(-2, 2);
-        ASSERT_GE(en, -2.0);
-        ASSERT_LT(en, 2.0);
-    }
-    EXPECT_TRUE(bajo && alto);
-    EXPECT_NEAR(suma / 20000, 0.5, 0.02);
-}
-
-TEST(Ruido, EnRangoContinuoYDeterminista) {
-    double minimo = 1, maximo = 0, salto = 0;
-    for (int y = 0; y < 200; ++y) {
-        for (int x = 0; x < 200; ++x) {
-            const double v = RuidoFractal(x, y, 40, 3);
-            ASSERT_GE(v, 0.0);
-            ASSERT_LT(v, 1.0);
-            ASSERT_EQ(v, RuidoFractal(x, y, 40, 3));
-            minimo = std::min(minimo, v);
-            maximo = std::max(maximo, v);
-            salto = std::max(salto, std::abs(RuidoSuave(x / 40.0, y / 40.0, 3) -
-                                             RuidoSuave((x + 1) / 40.0, y / 40.0, 3)));
-        }
-    }
-    EXPECT_GT(maximo - minimo, 0.3) << "it varies";
-    EXPECT_LT(salto, 0.08) << "one octave is smooth from pixel to pixel";
-    EXPECT_NE(RuidoFractal(10, 10, 40, 3), RuidoFractal(10, 10, 40, 4));
-}
-
-TEST(Texturas, TexturaRuidoRodeaSuColorSinSerLisa) {
-    const QColor base(120, 80, 200);
-    const QImage t = TexturaRuido(64, 64, base, 30, 8, 9);
-    ASSERT_EQ(t.size(), QSize(64, 64));
-    double r = 0, g = 0, b = 0;
-    int distintos = 0;
-    for (int y = 0; y < 64; ++y) {
-        for (int x = 0; x < 64; ++x) {
-            const QRgb c = t.pixel(x, y);
-            r += qRed(c);
-            g += qGreen(c);
-            b += qBlue(c);
-            distintos += c != t.pixel(0, 0) ? 1 : 0;
-        }
-    }
-    EXPECT_NEAR(r / 4096, base.red(), 10);
-    EXPECT_NEAR(g / 4096, base.green(), 10);
-    EXPECT_NEAR(b / 4096, base.blue(), 10);
-    EXPECT_GT(distintos, 3000);
-    EXPECT_EQ(t, TexturaRuido(64, 64, base, 30, 8, 9));
-}
 
 // --- composing a button image ---
 
