@@ -56,10 +56,6 @@ inline CargaDeImagen LeeBmp(const std::string &fichero, Superficie &destino) {
     return {EstadoCarga::Leida, w, h};
 }
 
-inline CargaDeImagen CargadorBmp(const std::string &fichero, Superficie &destino) {
-    return LeeBmp(fichero, destino);
-}
-
 // Every text printed, with the surface it went to.
 struct RotuladorDialogo : Rotulador {
     std::vector<std::pair<const Superficie *, std::string>> textos;
@@ -105,7 +101,7 @@ class Dialogo : public Sesion {
     void SetUp() override {
         using namespace dialogo_prueba;
         Sesion::SetUp();
-        PonServicio(&ServiciosPlataforma::CargaImagen, CargadorBmp);
+        PonServicio(&ServiciosPlataforma::CargaImagen, LeeBmp);
         PonServicio(&ServiciosPlataforma::Texto, &rotulador);
         PonServicio(&ServiciosPlataforma::Dialogo, {MuestraModalDePrueba, CargaTiraDePrueba});
         PonServicio(&ServiciosPlataforma::MuestraAyuda, AyudaDePrueba);

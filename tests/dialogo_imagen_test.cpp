@@ -291,7 +291,7 @@ TEST_F(Dialogo, ElPortapapelesPasaPorTeseportComoCualquierFichero) {
     EXPECT_EQ(teselari.Pic_Origin.Ancho(), 400);
     // The file on disc is a real bitmap with the clipboard's pixels.
     Superficie leida, esperada;
-    ASSERT_TRUE(dialogo_prueba::CargadorBmp(fotos + "/teseport.bmp", leida).Leida());
+    ASSERT_TRUE(dialogo_prueba::LeeBmp(fotos + "/teseport.bmp", leida).Leida());
     PintaImagenGenerada(esperada, 400, 300);
     EXPECT_EQ(leida.Pixeles(), esperada.Pixeles());
     // Accepting saves the picture again, over the file.
@@ -309,7 +309,7 @@ TEST(GuardaBmp, FilasDeCualquierAnchoVuelvenIguales) {
         ASSERT_TRUE(GuardaBmp(s, ruta));
         const size_t fila = (static_cast<size_t>(w) * 3 + 3) / 4 * 4;
         EXPECT_EQ(std::filesystem::file_size(ruta), 54 + fila * 3);
-        ASSERT_TRUE(dialogo_prueba::CargadorBmp(ruta, leida).Leida());
+        ASSERT_TRUE(dialogo_prueba::LeeBmp(ruta, leida).Leida());
         EXPECT_EQ(leida.Pixeles(), s.Pixeles()) << w;
         std::filesystem::remove(ruta);
     }

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <set>
 
 #include "board/Arrastre.h"
 #include "board/Raton.h"
@@ -178,56 +177,6 @@ TEST_F(Historia, SinFicheroLoDiceEnCadaArranque) {
     DirectorioTrabajo = carpeta + "/no-existe";
     LeeHistorico();
     EXPECT_EQ(escritorio.mensajes.back().texto, "HIS ERROR 76: No existe el fichero Histórico");
-}
-
-// Any bytes: no crash, the table's bound, each number told once, fixed
-// strings at their widths; and the records written back in the file's form
-// read as themselves (those aside whose strings hold a double quote, which
-// only a field without quotes can bring and the file cannot carry).
-TEST_F(Historia, BytesAlAzarSeLeenYSeReescribenIguales) {
-    const char *const piezas[] = {
-        ",",  ",",    ",",    "\r\n",  "\n",  "\r", "\"texto\"", "\"a,b\"", "\"sin cierre", "123",
-        "-7", "4.25", "1e99", "99999", "abc", " ",  "\t",        "\xE9",    "\x81",         "\x1A"};
-    uint32_t estado = 12345;
-    int reescritas = 0;
-    for (int prueba = 0; prueba < 300; ++prueba) {
-        std::string bytes;
-        const int largo = static_cast<int>(estado % 300);
-        for (int i = 0; i < largo; ++i) {
-            estado = estado * 1664525u + 1013904223u;
-            const uint32_t n = (estado >> 8) % 400;
-            bytes += n < 380   ? std::string(piezas[n % 19])
-                     : n < 399 ? std::string(1, char(n * 7))
-                               : piezas[19];
-            // Mostly a separator after each piece, as fields have.
-            bytes += n % 4 == 0 ? "" : n % 5 == 0 ? "\r\n" : ",";
-        }
-        EscribeHis(bytes);
-        escritorio.mensajes.clear();
-        LeeHistorico();
-        const std::vector<std::string> m = Mensajes();
-        EXPECT_EQ(std::set<std::string>(m.begin(), m.end()).size(), m.size());
-        ASSERT_EQ(Historico.size(), static_cast<size_t>(NroRegistrosHistorico) + 21);
-        std::vector<RegistroHistorico> leidos;
-        std::string reescrito;
-        for (int16_t i = 1; i <= NroRegistrosHistorico; ++i) {
-            const RegistroHistorico &r = Historico[static_cast<size_t>(i)];
-            EXPECT_EQ(CadenaFija(r.Fecha, 10), r.Fecha);
-            EXPECT_EQ(CadenaFija(r.Nombre, 9), r.Nombre);
-            if ((r.Fecha + r.Hora + r.Imagen + r.Nombre).find('"') == std::string::npos) {
-                leidos.push_back(r);
-                reescrito += LineaHistorico(r);
-            }
-        }
-        reescritas += static_cast<int>(leidos.size());
-        EscribeHis(reescrito);
-        LeeHistorico();
-        ASSERT_EQ(NroRegistrosHistorico, static_cast<int16_t>(leidos.size())) << prueba;
-        for (size_t i = 0; i < leidos.size(); ++i) {
-            EXPECT_EQ(Historico[i + 1], leidos[i]) << prueba << " " << i;
-        }
-    }
-    EXPECT_GT(reescritas, 300);
 }
 
 // The finish of a game on a 3 x 3 board of rectangles: piece 2 lifted from

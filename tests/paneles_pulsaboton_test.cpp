@@ -16,38 +16,11 @@
 #include "panels/Comandos.h"
 #include "panels/Paneles.h"
 #include "plataforma_prueba.h"
+#include "tablero_comun.h"
 
 using namespace PuzzGbl;
 
 namespace {
-
-struct Ganchos {
-    bool respuesta = false;
-    std::vector<int16_t> clips;
-    std::vector<std::string> titulos, textos;
-    int terminas = 0;
-    int eventos = 0;
-    std::function<void()> al_ceder; // runs inside the yields of the routines
-};
-Ganchos ganchos;
-
-bool MensajeDoble(const std::string &titulo, const std::string &texto) {
-    ganchos.titulos.push_back(titulo);
-    ganchos.textos.push_back(texto);
-    return ganchos.respuesta;
-}
-void SonidoDoble(int16_t clip) {
-    ganchos.clips.push_back(clip);
-}
-void EventosDoble() {
-    ++ganchos.eventos;
-    if (ganchos.al_ceder) {
-        ganchos.al_ceder();
-    }
-}
-void TerminaDoble() {
-    ++ganchos.terminas;
-}
 
 class Pulsa : public Motor {
   protected:
@@ -57,8 +30,8 @@ class Pulsa : public Motor {
                    ("teselari_paneles_" + std::to_string(::getpid()));
         std::filesystem::remove_all(carpeta_);
         std::filesystem::create_directories(carpeta_);
-        ganchos = Ganchos{};
-        PonEscritorio({MensajeDoble, SonidoDoble, EventosDoble, TerminaDoble});
+        InstalaEscritorio();
+        escritorio.respuesta = false;
         PreparaJuego(4, 0, 400, 300);
         PintaTiraPrueba(teselari.Pic_BmpBoton);
         Sonido = 2;
@@ -67,7 +40,7 @@ class Pulsa : public Motor {
         DibujaBotonesSiempre(); // every button drawn up
     }
     void TearDown() override {
-        PonEscritorio({});
+        QuitaEscritorio();
         std::filesystem::current_path(carpeta_previa_);
         std::filesystem::remove_all(carpeta_);
         Motor::TearDown();
@@ -119,7 +92,9 @@ TEST_P(TablaModos, CadaComandoTerminaLosModosQueExcluye) {
         int16_t colocadas, ordenar, resolver;
     };
     std::vector<Visto> vistos;
-    ganchos.al_ceder = [&vistos] { vistos.push_back({ModoColocadas, ModoOrdenar, ModoResolver}); };
+    escritorio.alDejarPasarEventos = [&vistos](int32_t) {
+        vistos.push_back({ModoColocadas, ModoOrdenar, ModoResolver});
+    };
     const std::vector<Pieza> antes = Piezas;
 
     PulsaBoton(b);
@@ -203,7 +178,7 @@ TEST_P(Completo, BloqueaDelCincoAlNueve) {
     EXPECT_EQ(ModoOrdenar, FALSO);
     EXPECT_EQ(ModoResolver, FALSO);
     EXPECT_EQ(ModoColocadas, b == 6 ? VERDADERO : FALSO);
-    EXPECT_EQ(ganchos.eventos, 0);
+    EXPECT_EQ(escritorio.eventos, 0);
     if (b == 8) {
         EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, trabajo));
     }
@@ -235,7 +210,7 @@ TEST_F(Pulsa, OtrosNumerosSoloTerminanLosModos) {
 
 TEST_F(Pulsa, ElSietePulsadoDuranteLaOrdenacionLaPara) {
     int dentro = 0;
-    ganchos.al_ceder = [&dentro] {
+    escritorio.alDejarPasarEventos = [&dentro](int32_t) {
         if (++dentro == 1) {
             PulsaBoton(7);
         }
@@ -249,7 +224,7 @@ TEST_F(Pulsa, ElSietePulsadoDuranteLaOrdenacionLaPara) {
 
 TEST_F(Pulsa, ElNueveDuranteLaOrdenacionTerminaElPuzzle) {
     int dentro = 0;
-    ganchos.al_ceder = [&dentro] {
+    escritorio.alDejarPasarEventos = [&dentro](int32_t) {
         if (++dentro == 1) {
             PulsaBoton(9);
         }
@@ -269,7 +244,7 @@ TEST_F(Pulsa, ElNueveDuranteLaOrdenacionTerminaElPuzzle) {
 TEST_F(Pulsa, UnaPulsacionEnLosPanelesCierraElDerechoYSuena) {
     for (bool desde_derecho : {false, true}) {
         Sonido = 1;
-        ganchos.clips.clear();
+        escritorio.sonidos.clear();
         BotonEnDerecho.fill(true);
         DibujaBotonesDerecho(10, 10);
         teselari.Pic_Trabajo.CajaLlena(0, 0, 30, 30, COLOR_NEGRO);
@@ -280,7 +255,7 @@ TEST_F(Pulsa, UnaPulsacionEnLosPanelesCierraElDerechoYSuena) {
             Pic_BotonSiempre_MouseDown(3, 2, 0, 20, 20);
         }
         EXPECT_FALSE(teselari.Pic_BotonesDerecho.Visible);
-        EXPECT_EQ(ganchos.clips, std::vector<int16_t>{1});
+        EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{1});
         EXPECT_NE(ModeloVisible, visible);
         EXPECT_EQ(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen), desde_derecho);
     }
@@ -291,29 +266,29 @@ TEST_F(Pulsa, SalirConRechazarSigueJugando) {
     for (bool en_marcha : {true, false}) {
         en_marcha ? ArrancaCronometro() : ParaCronometro();
         SegundosCronometro = 321;
-        ganchos.respuesta = false;
+        escritorio.respuesta = false;
         PulsaBoton(11);
-        ASSERT_FALSE(ganchos.titulos.empty());
-        EXPECT_EQ(ganchos.titulos.back(), "SALIR DE TESELARI");
-        EXPECT_EQ(ganchos.textos.back(), "¿Desea abandonar el programa?");
+        ASSERT_FALSE(escritorio.mensajes.empty());
+        EXPECT_EQ(escritorio.mensajes.back().titulo, "SALIR DE TESELARI");
+        EXPECT_EQ(escritorio.mensajes.back().texto, "¿Desea abandonar el programa?");
         EXPECT_EQ(MensajeLineas, 1);
         EXPECT_EQ(MensajeBotones, 2);
         // The clock goes on from where it stood, whatever it did before.
         EXPECT_EQ(RelojEnMarcha, VERDADERO);
         EXPECT_EQ(SegundosCronometro, 321);
         EXPECT_TRUE(BotonArriba(11));
-        EXPECT_EQ(ganchos.terminas, 0);
+        EXPECT_EQ(escritorio.terminas, 0);
         EXPECT_FALSE(std::filesystem::exists(ini));
     }
 }
 
 TEST_F(Pulsa, SalirConAceptarGuardaYTermina) {
     ArrancaCronometro();
-    ganchos.respuesta = true;
+    escritorio.respuesta = true;
     PulsaBoton(11);
-    EXPECT_EQ(ganchos.titulos.size(), 1u);
+    EXPECT_EQ(escritorio.mensajes.size(), 1u);
     EXPECT_TRUE(std::filesystem::exists(carpeta_ / "TESEL32.INI"));
-    EXPECT_EQ(ganchos.terminas, 1);
+    EXPECT_EQ(escritorio.terminas, 1);
     EXPECT_EQ(RelojEnMarcha, FALSO);
 }
 

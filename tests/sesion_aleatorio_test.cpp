@@ -70,17 +70,6 @@ TEST_F(SesionAleatoria, BytesCambiadosAlAzar) {
     }
 }
 
-TEST_F(SesionAleatoria, BytesAlAzar) {
-    std::mt19937 azar(7);
-    for (int vuelta = 0; vuelta < 60; ++vuelta) {
-        std::string f(azar() % 3000, '\0');
-        for (char &b : f) {
-            b = static_cast<char>(azar() & 0xFF);
-        }
-        ASSERT_TRUE(Restaura(f)) << "round " << vuelta;
-    }
-}
-
 TEST_F(SesionAleatoria, LineasDeMasYCamposDeMas) {
     std::string largo = bueno;
     largo += "1,2,3,4,5\r\nbasura\r\n";

@@ -107,7 +107,6 @@ const CasoError CASOS_ERROR[] = {
          fs::create_directory(programa + "/TESEL32.INI");
      },
      75, "INI ERROR 75"},
-    {"SinFichero", [](const std::string &, const std::string &) {}, 53, TEXTO_53},
 };
 
 class SesionError : public Sesion, public ::testing::WithParamInterface<CasoError> {};

@@ -126,10 +126,6 @@ TEST_F(Sesion, LaUnidadDeUnaCarpetaEsUnPuntoDeMontajeQueLaContiene) {
     EXPECT_EQ(UnidadDeCarpeta("/"), "/");
 }
 
-} // namespace
-
-namespace {
-
 TEST_F(Sesion, LaCarpetaDelProgramaInstaladoEsLaDeDatosJuntoAlEjecutable) {
     fs::create_directories(raiz + "/usr/bin");
     fs::create_directories(raiz + "/usr/share/teselari");

@@ -27,6 +27,8 @@ struct Escritorio {
     std::function<void(int32_t)> alDejarPasarEventos;
     // Runs while a message stands.
     std::function<void()> alMostrarMensaje;
+    bool respuesta = true; // the player's answer to a question
+    int32_t terminas = 0;
 };
 
 inline Escritorio escritorio;
@@ -41,7 +43,7 @@ inline void InstalaEscritorio() {
         if (escritorio.alMostrarMensaje) {
             escritorio.alMostrarMensaje();
         }
-        return true;
+        return escritorio.respuesta;
     };
     s.Eventos = [] {
         ++escritorio.eventos;
@@ -49,6 +51,7 @@ inline void InstalaEscritorio() {
             escritorio.alDejarPasarEventos(escritorio.eventos);
         }
     };
+    s.Termina = [] { ++escritorio.terminas; };
     PonEscritorio(s);
 }
 

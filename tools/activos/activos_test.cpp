@@ -135,12 +135,6 @@ TEST(TiraBotones, PulsadoNoQuedaNadaDeSombra) {
     }
 }
 
-TEST(TiraBotones, ElGeneradorDibujaLaTiraGuardada) {
-    const QImage guardada = Lee("botones.png").convertToFormat(QImage::Format_RGB32);
-    EXPECT_TRUE(CasiIguales(GeneraTiraBotones(), guardada));
-    EXPECT_EQ(GeneraTiraBotones(), GeneraTiraBotones());
-}
-
 TEST(ComponeIcono, SoloLaSombraQueAlcanzaUnaSemillaSeQueda) {
     // Two squares: the seed reaches the shadow of the first only.
     QImage capa(LadoIcono, LadoIcono, QImage::Format_ARGB32);
@@ -173,13 +167,14 @@ TEST(Cronometro, CaraGrisConTeclasYCampo) {
     const struct {
         int x, y;
         QRgb color;
-    } puntos[] = {{0, 0, 0xFFFFFF},   {61, 38, 0x000000}, {15, 9, 0x008000},
-                  {44, 9, 0xFF0000},  {30, 25, 0xC0C0C0}, {4, 19, 0xC0C0C0},
-                  {56, 33, 0xC0C0C0}, {3, 25, 0x808080},  {57, 25, 0xFFFFFF}};
+    } puntos[] = {{0, 0, 0xFFFFFF},   {61, 38, 0x000000}, {15, 9, 0x008000},  {44, 9, 0xFF0000},
+                  {30, 25, 0xC0C0C0}, {4, 19, 0xC0C0C0},  {56, 33, 0xC0C0C0}, {3, 25, 0x808080},
+                  {57, 25, 0xFFFFFF}, {4, 10, 0xFFFFFF},  {20, 14, 0x000000}, {31, 9, 0x000000},
+                  {58, 9, 0x000000},  {6, 13, 0x005000},  {29, 9, 0x005000},  {56, 9, 0xA00000},
+                  {3, 18, 0x808080},  {1, 20, 0xE0E0E0}};
     for (const auto &p : puntos) {
         EXPECT_EQ(c.pixel(p.x, p.y) & 0xFFFFFF, p.color) << p.x << "," << p.y;
     }
-    EXPECT_TRUE(CasiIguales(GeneraCronometro(), c));
 }
 
 // --- the pointers ---
@@ -200,6 +195,18 @@ TEST(Cursores, ManosConLaPuntaDelIndiceEnElPuntoActivo) {
         EXPECT_GT(qBlue(puno), 150);
         EXPECT_LT(qRed(puno), 60);
     }
+    // Above the knuckles, right of the index finger: fingers in the open
+    // hand only.
+    const QImage abierta = Lee("cursores/manoblanca.png"), indice = Lee("cursores/manoindice.png");
+    int enAbierta = 0, enIndice = 0;
+    for (int y = 2; y < 9; ++y) {
+        for (int x = 16; x < 30; ++x) {
+            enAbierta += qAlpha(abierta.pixel(x, y)) > 0 ? 1 : 0;
+            enIndice += qAlpha(indice.pixel(x, y)) > 0 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(enAbierta, 20);
+    EXPECT_EQ(enIndice, 0);
     // The colour of the back of the hand.
     const struct {
         const char *nombre;
@@ -254,7 +261,6 @@ TEST(Sonidos, CadaClipEsUnWaveConSuMedida) {
         EXPECT_LE(std::abs(static_cast<unsigned char>(w[44]) - 128), 2);
         EXPECT_LE(std::abs(static_cast<unsigned char>(w[44 + n - 1]) - 128), 2);
         EXPECT_GT(pico, 30);
-        EXPECT_EQ(w, GeneraWav(clip)) << "the generator makes the file committed";
     }
     EXPECT_EQ(LeeBytes("sonidos/10.wav"), LeeBytes("sonidos/11.wav"));
     EXPECT_EQ(LeeBytes("sonidos/10.wav"), LeeBytes("sonidos/12.wav"));
