@@ -36,9 +36,11 @@ cmake --build build/release -j2
 echo "== Release tests"
 ctest --test-dir build/release --output-on-failure --no-tests=error -j2 || fallos+=(Release)
 
+# -O1 and line tables only: a sanitizer's report still names the file and
+# line, and the build takes half the time of -O2 with full debug data.
 echo "== Sanitizer build"
-configura build/sanitizers -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESELARI_SANITIZE=ON -DTESELARI_ESTRICTO=ON \
-    -DTESELARI_TESTS=ON -DTESELARI_BENCH=OFF -DTESELARI_TOOLS=OFF
+configura build/sanitizers -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O1 -g1 -DNDEBUG" \
+    -DTESELARI_SANITIZE=ON -DTESELARI_ESTRICTO=ON -DTESELARI_TESTS=ON -DTESELARI_BENCH=OFF -DTESELARI_TOOLS=OFF
 cmake --build build/sanitizers -j2
 echo "== Sanitizer tests"
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
