@@ -33,8 +33,6 @@ const CasoCorte IRREGULARES[] = {{1, 3, 140, 140}, {1, 3, 24, 24},  {1, 7, 140, 
                                  {1, 20, 24, 38},  {1, 20, 51, 38}};
 const CasoCorte DOBLES[] = {{2, 3, 140, 140}, {2, 16, 64, 48}, {3, 4, 24, 140}, {3, 20, 24, 24},
                             {4, 9, 100, 24},  {4, 20, 51, 38}, {5, 5, 24, 57},  {5, 12, 57, 24}};
-const CasoCorte RECTANGULARES[] = {
-    {0, 3, 140, 140}, {0, 7, 24, 109}, {0, 11, 93, 24}, {0, 20, 24, 24}};
 
 // Prepares the cut without dealing: every piece at home, in order.
 void Corta(const CasoCorte &c) {
@@ -214,34 +212,3 @@ TEST_P(CorteDoble, LasDosMascarasDeUnaCeldaSeComplementan) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rejillas, CorteDoble, ::testing::ValuesIn(DOBLES), NombreCaso);
-
-class CorteRectangular : public Motor, public ::testing::WithParamInterface<CasoCorte> {};
-
-TEST_P(CorteRectangular, CadaCeldaTieneSuMarco) {
-    Corta(GetParam());
-    CompruebaRestoIntacto();
-    const Superficie &b = teselari.Pic_Bitmap;
-    const Color linea = static_cast<Color>(ColorContraste);
-    for (int32_t f = 0; f < PiezasPorLado; ++f) {
-        for (int32_t c = 0; c < PiezasPorLado; ++c) {
-            const int32_t x0 = c * AnchoPieza, y0 = f * AltoPieza;
-            const int32_t x1 = x0 + AnchoPieza - 1, y1 = y0 + AltoPieza - 1;
-            for (int32_t x = x0; x <= x1; ++x) {
-                ASSERT_EQ(b.Point(x, y0), linea);
-                ASSERT_EQ(b.Point(x, y1), linea);
-            }
-            for (int32_t y = y0; y <= y1; ++y) {
-                ASSERT_EQ(b.Point(x0, y), linea);
-                ASSERT_EQ(b.Point(x1, y), linea);
-            }
-            // Inside the outline the picture stands untouched.
-            ASSERT_EQ(b.Point(x0 + 1, y0 + 1), teselari.Pic_Origin.Point(x0 + 1, y0 + 1));
-        }
-    }
-    for (uint32_t p : teselari.Pic_Mascara.Pixeles()) {
-        ASSERT_EQ(AColor(p), COLOR_BLANCO);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Rejillas, CorteRectangular, ::testing::ValuesIn(RECTANGULARES),
-                         NombreCaso);

@@ -1,5 +1,5 @@
-// The board: the deal, the order of the pile, the count of placed pieces and
-// the frame under a lifted piece.
+// The board: the deal, the count of placed pieces and the frame under a
+// lifted piece.
 #include <algorithm>
 #include <numeric>
 #include <sstream>
@@ -12,7 +12,6 @@
 #include "motor_comun.h"
 #include "plataforma_prueba.h"
 #include "raster/Raster.h"
-#include "services/Azar.h"
 
 using namespace PuzzGbl;
 
@@ -97,31 +96,6 @@ TEST_P(Reparto, InvariantesDelBarajado) {
     EXPECT_TRUE(MismosPixeles(repintado, f.Pic_Trabajo));
 }
 
-TEST_P(Reparto, RestaurarNiMueveNiSortea) {
-    const CasoJuego c = GetParam();
-    PreparaJuego(c.n, c.tipo, c.ancho, c.alto);
-    PreparaBitmap();
-    const std::vector<Pieza> piezas = Piezas;
-    const std::vector<int16_t> orden = OrdenPiezas;
-    const Superficie imagen = teselari.Pic_Imagen;
-    Randomize(42);
-    const double siguiente = Rnd();
-    Randomize(42);
-    SesionRestaurando = VERDADERO;
-    PuzzleCompleto = VERDADERO;
-    PartidaValida = FALSO;
-    SegundosCronometro = 77;
-    Barajar();
-    EXPECT_EQ(Piezas, piezas);
-    EXPECT_EQ(OrdenPiezas, orden);
-    EXPECT_EQ(Rnd(), siguiente);
-    EXPECT_EQ(PuzzleCompleto, VERDADERO);
-    EXPECT_EQ(PartidaValida, FALSO);
-    EXPECT_EQ(SegundosCronometro, 77);
-    EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, imagen));
-    EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, imagen));
-}
-
 INSTANTIATE_TEST_SUITE_P(Juegos, Reparto, ::testing::ValuesIn(JUEGOS),
                          [](const ::testing::TestParamInfo<CasoJuego> &i) {
                              std::ostringstream nombre;
@@ -166,28 +140,6 @@ TEST_F(Motor, ElPanelApartaLasPiezasDeSuEsquina) {
         apartadas += q.X == 660;
     }
     EXPECT_GT(apartadas, 0); // about a quarter of the board is protected
-}
-
-TEST_F(Motor, PiezaPrioritariaSubeUnaYConservaElResto) {
-    PreparaJuego(3, 0, 300, 300);
-    SesionRestaurando = VERDADERO;
-    PreparaBitmap();
-    ColocaPiezasEnCasa();
-    struct Caso {
-        int16_t posicion;
-        std::vector<int16_t> resultado;
-    };
-    const Caso casos[] = {{1, {1, 2, 3, 4, 5, 6, 7, 8, 9}},
-                          {9, {9, 1, 2, 3, 4, 5, 6, 7, 8}},
-                          {4, {4, 1, 2, 3, 5, 6, 7, 8, 9}},
-                          {0, {1, 2, 3, 4, 5, 6, 7, 8, 9}},
-                          {10, {1, 2, 3, 4, 5, 6, 7, 8, 9}}};
-    for (const Caso &c : casos) {
-        std::iota(OrdenPiezas.begin() + 1, OrdenPiezas.end(), int16_t{1});
-        PiezaPrioritaria(c.posicion);
-        EXPECT_EQ(std::vector<int16_t>(OrdenPiezas.begin() + 1, OrdenPiezas.end()), c.resultado)
-            << c.posicion;
-    }
 }
 
 TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
