@@ -256,6 +256,5 @@ TEST(Tablas, TextosFijos) {
     EXPECT_EQ(TextoNroPiezas[23], " 3 x  3 x 2 ->  18");
     EXPECT_EQ(TextoNroPiezas[30], "10 x 10 x 2 -> 200");
     EXPECT_EQ(TextoNroPiezas[40], "20 x 20 x 2 -> 800");
-    EXPECT_EQ(TextoBotones[1], "Ayuda de la aplicación        ");
     EXPECT_EQ(CadenaFija("Histórico de puzzles", 5), "Histó");
 }

@@ -10,26 +10,13 @@
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
+#include "paneles_comun.h"
 #include "plataforma_prueba.h"
 #include "raster/Raster.h"
 
 using namespace PuzzGbl;
 
 namespace {
-
-// Records what is printed, measuring every character as 6 pixels.
-class RotuladorDePrueba : public Rotulador {
-  public:
-    std::vector<std::pair<double, std::string>> impresos;
-    double Ancho(const Fuente &, const std::string &t) override {
-        return 6.0 * static_cast<double>(t.size());
-    }
-    double Alto(const Fuente &, const std::string &) override { return 13.0; }
-    void Dibuja(Superficie &, const Fuente &, double x, double, Color,
-                const std::string &t) override {
-        impresos.emplace_back(x, t);
-    }
-};
 
 struct CasoJuego {
     int16_t tipo, n;
@@ -143,7 +130,7 @@ TEST_F(Motor, ElPanelApartaLasPiezasDeSuEsquina) {
 }
 
 TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
-    RotuladorDePrueba r;
+    RotuladorRegistro r;
     PonServicio(&ServiciosPlataforma::Texto, &r);
     struct Caso {
         int16_t lado, colocadas;
@@ -157,14 +144,14 @@ TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
             Piezas[k].X = Piezas[k].XCorrecta + (k <= c.colocadas ? 0 : 1);
             Piezas[k].Y = Piezas[k].YCorrecta;
         }
-        r.impresos.clear();
+        r.textos.clear();
         ActualizaBSInfo();
         EXPECT_EQ(PiezasColocadas, c.colocadas);
-        ASSERT_EQ(r.impresos.size(), 1u);
-        EXPECT_EQ(r.impresos[0].second, c.texto);
+        ASSERT_EQ(r.textos.size(), 1u);
+        EXPECT_EQ(r.textos[0].texto, c.texto);
         // Centred on the 56-pixel panel, less its 4-pixel frame.
         const double ancho = 6.0 * static_cast<double>(std::string(c.texto).size());
-        EXPECT_EQ(r.impresos[0].first, DivEntera(Redondea(56 - 4 - ancho), 2));
+        EXPECT_EQ(r.textos[0].x, DivEntera(Redondea(56 - 4 - ancho), 2));
         EXPECT_EQ(teselari.Pic_BSInfo.CurrentY, 3);
     }
     PonServicio(&ServiciosPlataforma::Texto, nullptr);

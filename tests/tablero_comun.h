@@ -110,6 +110,19 @@ inline bool TableroAlDia() {
     return pantalla && MismosPixeles(antes, teselari.Pic_Imagen);
 }
 
+// Whether the puzzle's area of the board shows the surface given.
+inline bool AreaComo(const Superficie &s) {
+    using namespace PuzzGbl;
+    for (int32_t y = 0; y < AltoPuzzle; ++y) {
+        for (int32_t x = 0; x < AnchoPuzzle; ++x) {
+            if (teselari.Pic_Trabajo.Point(x, y) != s.Point(x, y)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 // A pixel of the home cell of piece k, from the cell's corner, with the
 // colour given on the mask of the cuts.
 inline std::optional<std::pair<int32_t, int32_t>> PuntoDeCelda(int16_t k, Color c) {

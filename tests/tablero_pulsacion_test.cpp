@@ -14,14 +14,6 @@ using namespace PuzzGbl;
 
 namespace {
 
-int32_t EnSuSitio() {
-    int32_t n = 0;
-    for (int16_t k = 1; k <= NroPiezas; ++k) {
-        n += PiezaEnSuSitio(k);
-    }
-    return n;
-}
-
 // Moves the mouse with the left button down and checks that the board shows
 // the composite with the piece in the hand on it.
 void Lleva(float x, float y) {
@@ -40,7 +32,7 @@ TEST_P(Mano, CogeLlevaYSueltaLaPiezaPulsada) {
         PonPieza(k, Piezas[k].XCorrecta + 7, Piezas[k].YCorrecta + 9);
     }
     RepintaTablero();
-    const int32_t colocadas = EnSuSitio();
+    const int32_t colocadas = PiezasColocadas; // counted by the paint
     // An inner cell below several pieces in the pile; in a double game its
     // centre belongs to the figure.
     const int16_t k = TipoPieza < 2 ? 8 : 8 + 25;

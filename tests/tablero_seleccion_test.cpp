@@ -1,6 +1,5 @@
 // The hand on the board: which piece a click finds through the pile, the
 // hover cursor and the scrolling at the edges of the view.
-#include <optional>
 #include <utility>
 
 #include "board/Arrastre.h"
@@ -13,28 +12,6 @@
 using namespace PuzzGbl;
 
 namespace {
-
-using Punto = std::pair<int32_t, int32_t>;
-
-// A pixel of the piece mask in Pic_PiezaMascara with the colour given, the
-// first one met from the corner (or from the centre outwards when asked).
-std::optional<Punto> PuntoDeMascara(Color c, bool desdeElCentro) {
-    const CuadroImagen &m = teselari.Pic_PiezaMascara;
-    const int32_t cx = m.Ancho() / 2, cy = m.Alto() / 2;
-    const int32_t radio = std::max(m.Ancho(), m.Alto());
-    for (int32_t r = 0; r < radio; ++r) {
-        for (int32_t y = 0; y < m.Alto(); ++y) {
-            for (int32_t x = 0; x < m.Ancho(); ++x) {
-                const int32_t d =
-                    desdeElCentro ? std::max(std::abs(x - cx), std::abs(y - cy)) : std::max(x, y);
-                if (d == r && m.Point(x, y) == c) {
-                    return Punto{x, y};
-                }
-            }
-        }
-    }
-    return std::nullopt;
-}
 
 // The piece at `posicion` comes to the top and is gripped at (x, y), as a
 // press does.
@@ -53,29 +30,25 @@ TEST_F(Tablero, UnHuecoDeLaPiezaDeArribaDejaVerLaDeAbajo) {
     PiezaPrioritaria(PosicionDe(arriba));
     ASSERT_EQ(OrdenPiezas[1], arriba);
     ASSERT_EQ(OrdenPiezas[2], abajo);
-    // A transparent pixel of the upper box and an opaque pixel of the lower
-    // piece, made to coincide.
+    // The upper box's corner lies outside its piece, the cell's centre inside;
+    // the lower piece's centre goes under that corner.
     EnmascaraPieza(1);
-    const auto hueco = PuntoDeMascara(COLOR_BLANCO, false);
-    const auto lleno = PuntoDeMascara(COLOR_NEGRO, true);
-    EnmascaraPieza(2);
-    const auto llenoAbajo = PuntoDeMascara(COLOR_NEGRO, true);
-    ASSERT_TRUE(hueco && lleno && llenoAbajo);
-    const int32_t hx = 500 - MargenX + hueco->first, hy = 300 - MargenY + hueco->second;
-    PonPieza(abajo, hx - llenoAbajo->first + MargenX, hy - llenoAbajo->second + MargenY);
+    const int32_t cx = MargenX + AnchoPieza / 2, cy = MargenY + AltoPieza / 2;
+    ASSERT_EQ(teselari.Pic_PiezaMascara.Point(0, 0), COLOR_BLANCO);
+    ASSERT_EQ(teselari.Pic_PiezaMascara.Point(cx, cy), COLOR_NEGRO);
+    const int32_t ax = 500 - MargenX, ay = 300 - MargenY;
+    PonPieza(abajo, ax - cx + MargenX, ay - cy + MargenY);
     RepintaTablero();
-
     struct Caso {
         const char *que;
         int32_t x, y;
         int16_t posicion;
     };
-    const int32_t ax = 500 - MargenX, ay = 300 - MargenY;
     const Caso casos[] = {
-        {"gap of the upper piece over the lower one", hx, hy, 2},
-        {"opaque pixel of the upper piece", ax + lleno->first, ay + lleno->second, 1},
-        {"far corner of the upper box, nothing below", ax + AnchoPiezaTotal - 1 - hueco->first,
-         ay + AltoPiezaTotal - 1 - hueco->second, 0},
+        {"gap of the upper piece over the lower one", ax, ay, 2},
+        {"opaque pixel of the upper piece", ax + cx, ay + cy, 1},
+        {"far corner of the upper box, nothing below", ax + AnchoPiezaTotal - 1,
+         ay + AltoPiezaTotal - 1, 0},
     };
     for (const Caso &c : casos) {
         EXPECT_EQ(PiezaTocada(c.x, c.y), c.posicion) << c.que;

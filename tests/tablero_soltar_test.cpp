@@ -22,30 +22,6 @@ void SueltaAlli(int16_t k, int32_t x, int32_t y) {
     Pic_Trabajo_MouseUp(1, 0, static_cast<float>(x), static_cast<float>(y));
 }
 
-// Piece k is carried from far away by the mouse and let go at (x, y).
-void LlevaYSuelta(int16_t k, int32_t x, int32_t y) {
-    PonPieza(k, 610, 455);
-    RepintaTablero();
-    PiezaPrioritaria(PosicionDe(k));
-    LevantaPieza(620, 465);
-    Pic_Trabajo_MouseMove(1, 0, 615, 460);
-    Pic_Trabajo_MouseMove(1, 0, static_cast<float>(x + 10), static_cast<float>(y + 10));
-    escritorio.sonidos.clear();
-    Pic_Trabajo_MouseUp(1, 0, static_cast<float>(x + 10), static_cast<float>(y + 10));
-}
-
-// Whether the puzzle's area of the board shows the surface given.
-bool AreaComo(const Superficie &s) {
-    for (int32_t y = 0; y < AltoPuzzle; ++y) {
-        for (int32_t x = 0; x < AnchoPuzzle; ++x) {
-            if (teselari.Pic_Trabajo.Point(x, y) != s.Point(x, y)) {
-                return false;
-            }
-        }
-    }
-    return true;
-}
-
 struct Alcance {
     int16_t factor;
     int32_t x, y; // the largest offset still attracted, -1 for none
@@ -78,7 +54,7 @@ TEST_P(Atraccion, LaPiezaVaASuSitioDentroDelAlcance) {
         {-fx, 0, false},     {0, fy, false},       {0, -fy, false},       {fx, fy, false},
     };
     for (const Desvio &d : desvios) {
-        LlevaYSuelta(k, 80 + d.dx, 60 + d.dy);
+        SueltaAlli(k, 80 + d.dx, 60 + d.dy);
         const bool enCasa = PiezaEnSuSitio(k);
         EXPECT_EQ(enCasa, d.atraida) << d.dx << ", " << d.dy;
         if (!enCasa) {
@@ -86,10 +62,7 @@ TEST_P(Atraccion, LaPiezaVaASuSitioDentroDelAlcance) {
             EXPECT_EQ(Piezas[k].Y, 60 + d.dy);
         }
         EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{static_cast<int16_t>(enCasa ? 6 : 10)});
-        EXPECT_EQ(OrdenPiezas[1], k);
         EXPECT_EQ(PiezasColocadas, NroPiezas - (enCasa ? 0 : 1));
-        EXPECT_EQ(PiezaLevantada, FALSO);
-        EXPECT_EQ(PiezaSoltandose, FALSO);
     }
 }
 
@@ -149,6 +122,7 @@ TEST_F(Tablero, LaAtraccionNoMiraLaVista) {
     SueltaAlli(64, 30, -20); // home (0, 0), far out of the view
     EXPECT_TRUE(PiezaEnSuSitio(64));
     EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{6});
+    EXPECT_EQ(teselari.Pic_BotonDerecho[9].MousePointer, PUNTERO_PROHIBIDO); // nothing to solve
 }
 
 // Releases that drop nothing: with no piece in the hand, during another drop
@@ -220,12 +194,12 @@ TEST_F(Tablero, DuranteLaSueltaElRatonNoToca) {
 class Final : public Tablero, public ::testing::WithParamInterface<int16_t> {};
 
 TEST_P(Final, LaUltimaPiezaTerminaLaPartida) {
-    PreparaTablero(3, GetParam(), 300, 300);
+    PreparaTablero(3, GetParam(), 310, 300); // a column beyond the puzzle
     const int16_t k = 2;
     ArrancaCronometro();
     PartidaValida = VERDADERO;
     // Away from home, the game is not finished.
-    LlevaYSuelta(k, 600, 400);
+    SueltaAlli(k, 600, 400);
     EXPECT_TRUE(escritorio.mensajes.empty());
     EXPECT_EQ(PuzzleCompleto, FALSO);
     EXPECT_EQ(RelojEnMarcha, VERDADERO);
@@ -239,13 +213,11 @@ TEST_P(Final, LaUltimaPiezaTerminaLaPartida) {
         EXPECT_EQ(PiezaSoltandose, VERDADERO);
         vistoLimpio = AreaComo(teselari.Pic_Origin);
     };
-    LlevaYSuelta(k, Piezas[k].XCorrecta + 2, Piezas[k].YCorrecta + 3);
+    SueltaAlli(k, Piezas[k].XCorrecta + 2, Piezas[k].YCorrecta + 3);
     ASSERT_EQ(escritorio.mensajes.size(), 1u);
     const Escritorio::Mensaje &m = escritorio.mensajes[0];
     EXPECT_EQ(m.titulo, "TESELARI");
     EXPECT_EQ(m.texto, "Ha conseguido resolver el puzzle");
-    EXPECT_EQ(m.lineas, 1);
-    EXPECT_EQ(m.botones, 1);
     EXPECT_TRUE(vistoLimpio);
     EXPECT_EQ(PiezasColocadas, NroPiezas);
     EXPECT_EQ(PuzzleCompleto, VERDADERO);
@@ -253,11 +225,13 @@ TEST_P(Final, LaUltimaPiezaTerminaLaPartida) {
     EXPECT_EQ(PiezaLevantada, FALSO);
     EXPECT_EQ(PiezaSoltandose, FALSO);
     EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{6});
+    EXPECT_EQ(teselari.Pic_BotonDerecho[9].MousePointer, PUNTERO_PROHIBIDO); // nothing to solve
     // A press beside the puzzle brings the cut lines back and leaves the clock
     // stopped; play goes on, and a pick sets it going again.
     Pic_Trabajo_MouseDown(1, 0, 700, 500);
     EXPECT_EQ(PuzzleCompleto, FALSO);
     EXPECT_TRUE(AreaComo(teselari.Pic_Bitmap));
+    EXPECT_EQ(teselari.Pic_Trabajo.Point(AnchoPuzzle, 0), static_cast<Color>(ColorContraste));
     EXPECT_EQ(RelojEnMarcha, FALSO);
     Pic_Trabajo_MouseDown(1, 0, 50, 50);
     EXPECT_EQ(PiezaLevantada, VERDADERO);
