@@ -1,5 +1,5 @@
-// The board: drawing pieces, the order of the pile, the count of placed
-// pieces, the deal and the piece in the hand.
+// The board: the deal, the count of placed pieces and the frame under a
+// lifted piece.
 #include <algorithm>
 #include <numeric>
 #include <sstream>
@@ -10,27 +10,13 @@
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
 #include "motor_comun.h"
+#include "paneles_comun.h"
 #include "plataforma_prueba.h"
 #include "raster/Raster.h"
-#include "services/Azar.h"
 
 using namespace PuzzGbl;
 
 namespace {
-
-// Records what is printed, measuring every character as 6 pixels.
-class RotuladorDePrueba : public Rotulador {
-  public:
-    std::vector<std::pair<double, std::string>> impresos;
-    double Ancho(const Fuente &, const std::string &t) override {
-        return 6.0 * static_cast<double>(t.size());
-    }
-    double Alto(const Fuente &, const std::string &) override { return 13.0; }
-    void Dibuja(Superficie &, const Fuente &, double x, double, Color,
-                const std::string &t) override {
-        impresos.emplace_back(x, t);
-    }
-};
 
 struct CasoJuego {
     int16_t tipo, n;
@@ -57,17 +43,6 @@ void PintaPilaDeNuevo(Superficie &destino, int32_t hasta = 1) {
     BitBlt(destino, 0, 0, imagen.Ancho(), imagen.Alto(), imagen, 0, 0, SRCCOPY);
 }
 
-bool EsPermutacion(const std::vector<int16_t> &orden) {
-    std::vector<int16_t> v(orden.begin() + 1, orden.end());
-    std::sort(v.begin(), v.end());
-    for (size_t i = 0; i < v.size(); ++i) {
-        if (v[i] != static_cast<int16_t>(i + 1)) {
-            return false;
-        }
-    }
-    return true;
-}
-
 } // namespace
 
 class Reparto : public Motor, public ::testing::WithParamInterface<CasoJuego> {};
@@ -78,9 +53,9 @@ TEST_P(Reparto, InvariantesDelBarajado) {
     PreparaBitmap();
     const FormTeselari &f = teselari;
     ASSERT_EQ(static_cast<int32_t>(OrdenPiezas.size()), NroPiezas + 1);
-    EXPECT_TRUE(EsPermutacion(OrdenPiezas));
-    const CuadroImagen &panel = f.Pic_BotonesSiempre;
-    const int32_t corregida = Redondea(f.BarraHor.Value() + panel.Left - AnchoPieza / 2.0);
+    std::vector<int16_t> numeros(static_cast<size_t>(NroPiezas));
+    std::iota(numeros.begin(), numeros.end(), int16_t{1});
+    EXPECT_TRUE(std::is_permutation(OrdenPiezas.begin() + 1, OrdenPiezas.end(), numeros.begin()));
     for (int32_t k = 1; k <= NroPiezas; ++k) {
         const Pieza &q = Piezas[k];
         EXPECT_GE(q.X, 1) << k;
@@ -92,10 +67,6 @@ TEST_P(Reparto, InvariantesDelBarajado) {
         const int32_t arr = q.Y - MargenY, aba = q.Y + AltoPieza + MargenY;
         EXPECT_TRUE(izq > AnchoPuzzle || der < AnchoPuzzle) << k;
         EXPECT_TRUE(arr > AltoPuzzle || aba < AltoPuzzle) << k;
-        // Nothing lands in the panel's corner but what the rule moved aside.
-        const bool enEsquina = q.X > f.Pic_Trabajo.Ancho() - panel.Ancho() - AnchoPieza / 2.0 &&
-                               q.Y < panel.Alto() + f.BarraVer.Value() - AltoPieza / 2.0;
-        EXPECT_TRUE(!enEsquina || q.X == corregida) << k;
         // Homes stay where the cut put them.
         EXPECT_EQ(q.XCorrecta % std::max<int32_t>(1, AnchoPieza), 0);
         EXPECT_EQ(q.YCorrecta % std::max<int32_t>(1, AltoPieza), 0);
@@ -110,87 +81,6 @@ TEST_P(Reparto, InvariantesDelBarajado) {
     Superficie repintado;
     PintaPilaDeNuevo(repintado);
     EXPECT_TRUE(MismosPixeles(repintado, f.Pic_Trabajo));
-}
-
-TEST_P(Reparto, RestaurarNiMueveNiSortea) {
-    const CasoJuego c = GetParam();
-    PreparaJuego(c.n, c.tipo, c.ancho, c.alto);
-    PreparaBitmap();
-    const std::vector<Pieza> piezas = Piezas;
-    const std::vector<int16_t> orden = OrdenPiezas;
-    const Superficie imagen = teselari.Pic_Imagen;
-    Randomize(42);
-    const double siguiente = Rnd();
-    Randomize(42);
-    SesionRestaurando = VERDADERO;
-    PuzzleCompleto = VERDADERO;
-    PartidaValida = FALSO;
-    SegundosCronometro = 77;
-    Barajar();
-    EXPECT_EQ(Piezas, piezas);
-    EXPECT_EQ(OrdenPiezas, orden);
-    EXPECT_EQ(Rnd(), siguiente);
-    EXPECT_EQ(PuzzleCompleto, VERDADERO);
-    EXPECT_EQ(PartidaValida, FALSO);
-    EXPECT_EQ(SegundosCronometro, 77);
-    EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, imagen));
-    EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, imagen));
-}
-
-TEST_P(Reparto, MuestraPiezaIgualEnTrabajoQueEnImagen) {
-    const CasoJuego c = GetParam();
-    PreparaJuego(c.n, c.tipo, c.ancho, c.alto);
-    PreparaBitmap();
-    for (const int16_t i : std::initializer_list<int16_t>{
-             int16_t{1}, static_cast<int16_t>(NroPiezas / 2), NroPiezas}) {
-        if (TipoPieza != 0) {
-            EnmascaraPieza(i);
-        }
-        MuestraPieza(teselari.Pic_Trabajo, i);
-        MuestraPieza(teselari.Pic_Imagen, i);
-        EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen)) << i;
-    }
-}
-
-TEST_P(Reparto, LaPiezaEnLaManoSaleDeLaImagenYSigueAlRaton) {
-    const CasoJuego c = GetParam();
-    PreparaJuego(c.n, c.tipo, c.ancho, c.alto);
-    PreparaBitmap();
-    const int16_t posicion = static_cast<int16_t>(NroPiezas / 2 + 1);
-    PiezaPrioritaria(posicion);
-    const Pieza antes = Piezas[OrdenPiezas[1]];
-    LevantaPieza(antes.X + 5, antes.Y + 5);
-    EXPECT_EQ(PiezaLevantada, VERDADERO);
-    // The composite lacks the lifted piece: it equals the pile painted
-    // without it.
-    const Superficie conHueco = teselari.Pic_Imagen;
-    Superficie esperado;
-    PintaPilaDeNuevo(esperado, 2);
-    BitBlt(teselari.Pic_Imagen, 0, 0, conHueco.Ancho(), conHueco.Alto(), conHueco, 0, 0, SRCCOPY);
-    EXPECT_TRUE(MismosPixeles(esperado, conHueco));
-    if (TipoPieza != 0) {
-        EnmascaraPieza(1);
-    }
-    // Carried by 37, 23 in three moves: the board shows the composite plus
-    // the piece at its new place.
-    MuevePieza(antes.X + 20, antes.Y + 5);
-    MuevePieza(antes.X + 30, antes.Y + 18);
-    MuevePieza(antes.X + 42, antes.Y + 28);
-    EXPECT_EQ(Piezas[OrdenPiezas[1]].X, antes.X + 37);
-    EXPECT_EQ(Piezas[OrdenPiezas[1]].Y, antes.Y + 23);
-    Superficie visto = teselari.Pic_Imagen;
-    {
-        Superficie guardado = teselari.Pic_Trabajo;
-        MuestraPieza(teselari.Pic_Trabajo, 1);
-        BitBlt(visto, 0, 0, visto.Ancho(), visto.Alto(), teselari.Pic_Imagen, 0, 0, SRCCOPY);
-        const Pieza &q = Piezas[OrdenPiezas[1]];
-        BitBlt(visto, q.X - MargenX, q.Y - MargenY, AnchoPiezaTotal, AltoPiezaTotal,
-               teselari.Pic_Trabajo, q.X - MargenX, q.Y - MargenY, SRCCOPY);
-        EXPECT_TRUE(MismosPixeles(visto, guardado));
-    }
-    // The attraction rectangle at 50 percent: a quarter of the cell each way.
-    EXPECT_EQ(RectIzquierda, antes.XCorrecta + Int(25 * (AnchoPieza / 100.0)));
-    EXPECT_EQ(RectAbajo, antes.YCorrecta + AltoPieza - Int(25 * (AltoPieza / 100.0)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Juegos, Reparto, ::testing::ValuesIn(JUEGOS),
@@ -239,30 +129,8 @@ TEST_F(Motor, ElPanelApartaLasPiezasDeSuEsquina) {
     EXPECT_GT(apartadas, 0); // about a quarter of the board is protected
 }
 
-TEST_F(Motor, PiezaPrioritariaSubeUnaYConservaElResto) {
-    PreparaJuego(3, 0, 300, 300);
-    SesionRestaurando = VERDADERO;
-    PreparaBitmap();
-    ColocaPiezasEnCasa();
-    struct Caso {
-        int16_t posicion;
-        std::vector<int16_t> resultado;
-    };
-    const Caso casos[] = {{1, {1, 2, 3, 4, 5, 6, 7, 8, 9}},
-                          {9, {9, 1, 2, 3, 4, 5, 6, 7, 8}},
-                          {4, {4, 1, 2, 3, 5, 6, 7, 8, 9}},
-                          {0, {1, 2, 3, 4, 5, 6, 7, 8, 9}},
-                          {10, {1, 2, 3, 4, 5, 6, 7, 8, 9}}};
-    for (const Caso &c : casos) {
-        std::iota(OrdenPiezas.begin() + 1, OrdenPiezas.end(), int16_t{1});
-        PiezaPrioritaria(c.posicion);
-        EXPECT_EQ(std::vector<int16_t>(OrdenPiezas.begin() + 1, OrdenPiezas.end()), c.resultado)
-            << c.posicion;
-    }
-}
-
 TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
-    RotuladorDePrueba r;
+    RotuladorRegistro r;
     PonServicio(&ServiciosPlataforma::Texto, &r);
     struct Caso {
         int16_t lado, colocadas;
@@ -276,53 +144,15 @@ TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
             Piezas[k].X = Piezas[k].XCorrecta + (k <= c.colocadas ? 0 : 1);
             Piezas[k].Y = Piezas[k].YCorrecta;
         }
-        r.impresos.clear();
+        r.textos.clear();
         ActualizaBSInfo();
         EXPECT_EQ(PiezasColocadas, c.colocadas);
-        ASSERT_EQ(r.impresos.size(), 1u);
-        EXPECT_EQ(r.impresos[0].second, c.texto);
+        ASSERT_EQ(r.textos.size(), 1u);
+        EXPECT_EQ(r.textos[0].texto, c.texto);
         // Centred on the 56-pixel panel, less its 4-pixel frame.
         const double ancho = 6.0 * static_cast<double>(std::string(c.texto).size());
-        EXPECT_EQ(r.impresos[0].first, DivEntera(Redondea(56 - 4 - ancho), 2));
+        EXPECT_EQ(r.textos[0].x, DivEntera(Redondea(56 - 4 - ancho), 2));
         EXPECT_EQ(teselari.Pic_BSInfo.CurrentY, 3);
     }
     PonServicio(&ServiciosPlataforma::Texto, nullptr);
-}
-
-TEST_F(Motor, RestauraBitmapMuestraLaImagenLimpia) {
-    PreparaJuego(4, 1, 400, 300);
-    PreparaBitmap();
-    RestauraBitmap();
-    EXPECT_EQ(PuzzleCompleto, VERDADERO);
-    EXPECT_EQ(teselari.Pic_BotonDerecho[9].MousePointer, 12);
-    for (int32_t y = 0; y < AltoPuzzle; y += 7) {
-        for (int32_t x = 0; x < AnchoPuzzle; x += 7) {
-            ASSERT_EQ(teselari.Pic_Trabajo.Point(x, y), teselari.Pic_Origin.Point(x, y));
-        }
-    }
-    EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen));
-    // The next press brings the outlines back over the same rectangle.
-    RecuperaContornos();
-    for (int32_t y = 0; y < AltoPuzzle; y += 5) {
-        for (int32_t x = 0; x < AnchoPuzzle; x += 5) {
-            ASSERT_EQ(teselari.Pic_Trabajo.Point(x, y), teselari.Pic_Bitmap.Point(x, y));
-        }
-    }
-    EXPECT_EQ(teselari.Pic_Trabajo.Point(AnchoPuzzle, 0), static_cast<Color>(ColorContraste));
-}
-
-TEST_F(Motor, LasBarrasMuevenElTrabajo) {
-    PreparaJuego(4, 0, 1024, 768);
-    SesionRestaurando = VERDADERO;
-    PreparaBitmap();
-    teselari.BarraHor.PonValue(100);
-    teselari.BarraVer.PonValue(50);
-    EXPECT_EQ(teselari.Pic_Trabajo.Left, -100);
-    EXPECT_EQ(teselari.Pic_Trabajo.Top, -50);
-    teselari.BarraHor.PonValue(100000); // kept within Max
-    EXPECT_EQ(teselari.Pic_Trabajo.Left, -teselari.BarraHor.Max());
-    // A new picture brings the board back to the origin.
-    PreparaBitmap();
-    EXPECT_EQ(teselari.Pic_Trabajo.Left, 0);
-    EXPECT_EQ(teselari.Pic_Trabajo.Top, 0);
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -85,6 +86,56 @@ inline void PreparaTablero(int16_t lado, int16_t tipo, int32_t ancho, int32_t al
 inline void PonPieza(int16_t k, int32_t x, int32_t y) {
     PuzzGbl::Piezas[k].X = x;
     PuzzGbl::Piezas[k].Y = y;
+}
+
+// Moves every piece by (dx, dy) from its home, without painting.
+inline void DesplazaTodas(int32_t dx, int32_t dy) {
+    for (int16_t k = 1; k <= PuzzGbl::NroPiezas; ++k) {
+        PonPieza(k, PuzzGbl::Piezas[k].XCorrecta + dx, PuzzGbl::Piezas[k].YCorrecta + dy);
+    }
+}
+
+// The pile, top first.
+inline std::vector<int16_t> Pila() {
+    return std::vector<int16_t>(PuzzGbl::OrdenPiezas.begin() + 1, PuzzGbl::OrdenPiezas.end());
+}
+
+// Whether the screen shows the composite and the composite is the pile
+// painted afresh from the positions.
+inline bool TableroAlDia() {
+    using namespace PuzzGbl;
+    const Superficie antes = teselari.Pic_Imagen;
+    const bool pantalla = MismosPixeles(teselari.Pic_Trabajo, antes);
+    RepintaTablero();
+    return pantalla && MismosPixeles(antes, teselari.Pic_Imagen);
+}
+
+// Whether the puzzle's area of the board shows the surface given.
+inline bool AreaComo(const Superficie &s) {
+    using namespace PuzzGbl;
+    for (int32_t y = 0; y < AltoPuzzle; ++y) {
+        for (int32_t x = 0; x < AnchoPuzzle; ++x) {
+            if (teselari.Pic_Trabajo.Point(x, y) != s.Point(x, y)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+// A pixel of the home cell of piece k, from the cell's corner, with the
+// colour given on the mask of the cuts.
+inline std::optional<std::pair<int32_t, int32_t>> PuntoDeCelda(int16_t k, Color c) {
+    using namespace PuzzGbl;
+    const Pieza &q = Piezas[k];
+    for (int32_t y = 0; y < AltoPieza; ++y) {
+        for (int32_t x = 0; x < AnchoPieza; ++x) {
+            if (teselari.Pic_Mascara.Point(q.XCorrecta + x, q.YCorrecta + y) == c) {
+                return std::make_pair(x, y);
+            }
+        }
+    }
+    return std::nullopt;
 }
 
 // The board as it should look with the piece in the hand: the composite with

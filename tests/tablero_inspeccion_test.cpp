@@ -19,16 +19,7 @@ std::optional<std::pair<int32_t, int32_t>> PixelPropio(int16_t k) {
         return std::make_pair(AnchoPieza / 2, AltoPieza / 2);
     }
     const bool figura = k > PiezasPorLado * PiezasPorLado;
-    const Pieza &q = Piezas[k];
-    for (int32_t y = 0; y < AltoPieza; ++y) {
-        for (int32_t x = 0; x < AnchoPieza; ++x) {
-            const Color c = teselari.Pic_Mascara.Point(q.XCorrecta + x, q.YCorrecta + y);
-            if (c == (figura ? COLOR_NEGRO : COLOR_BLANCO)) {
-                return std::make_pair(x, y);
-            }
-        }
-    }
-    return std::nullopt;
+    return PuntoDeCelda(k, figura ? COLOR_NEGRO : COLOR_BLANCO);
 }
 
 } // namespace
