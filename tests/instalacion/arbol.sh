@@ -10,19 +10,9 @@
 set -uo pipefail
 
 build=$1
-for herramienta in desktop-file-validate appstreamcli identify; do
-    if ! command -v "$herramienta" >/dev/null 2>&1; then
-        echo "skipped: $herramienta is not installed"
-        exit 77
-    fi
-done
-prefijo=$(mktemp -d)
-trap 'rm -rf "$prefijo"' EXIT
-fallos=0
-falla() {
-    echo "FAILED: $*"
-    fallos=$((fallos + 1))
-}
+source "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
+necesita desktop-file-validate appstreamcli identify
+prefijo=$temporal
 
 cmake --install "$build" --prefix "$prefijo" >/dev/null || {
     echo "FAILED: cmake --install"

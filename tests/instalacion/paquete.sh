@@ -10,19 +10,9 @@
 set -uo pipefail
 
 build=$1
-for herramienta in cpack dpkg-deb dpkg-shlibdeps lintian; do
-    if ! command -v "$herramienta" >/dev/null 2>&1; then
-        echo "skipped: $herramienta is not installed"
-        exit 77
-    fi
-done
-salida=$(mktemp -d)
-trap 'rm -rf "$salida"' EXIT
-fallos=0
-falla() {
-    echo "FAILED: $*"
-    fallos=$((fallos + 1))
-}
+source "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
+necesita cpack dpkg-deb dpkg-shlibdeps lintian
+salida=$temporal
 
 cpack -G DEB -B "$salida" --config "$build/CPackConfig.cmake" >"$salida/cpack.log" 2>&1 || {
     cat "$salida/cpack.log"
@@ -64,5 +54,4 @@ informe=$(lintian --no-tag-display-limit "$paquete" 2>&1 | grep -v 'running with
 echo "$informe"
 grep -q '^E:' <<<"$informe" && falla "lintian reports errors"
 
-[[ $fallos -eq 0 ]] || exit 1
-echo "passed"
+termina_comprobacion

@@ -141,3 +141,49 @@ sale_con_boton_11() {
     [[ $estado -eq 0 ]] || falla "the game ended with status $estado"
     [[ -s "$trabajo/TESEL32.INI" ]] || falla "no TESEL32.INI was written at the exit"
 }
+
+# The customisation dialog, centred on the screen: its third file (CASA.JPG)
+# is chosen and accepted with the tick, and the game's window comes back.
+# With a folder, the dialog is photographed before and after the choice.
+elige_casa() {
+    local fotos=${1:-}
+    espera_nombre '^Personalizar la aplicación$'
+    sleep 1
+    if [[ -n $fotos ]]; then import -window root "$fotos/dialogo.png"; fi
+    local izquierda=$(((ANCHO - 640) / 2)) arriba=$(((ALTO - 480) / 2))
+    xdotool mousemove $((izquierda + 183)) $((arriba + 95)) click 1
+    sleep 1
+    if [[ -n $fotos ]]; then import -window root "$fotos/elegida.png"; fi
+    xdotool mousemove $((izquierda + 586)) $((arriba + 442)) click 1
+    espera_ventana
+    sleep 1
+}
+
+# The saved game in FOLDER (by default the program's) is of CASA.JPG.
+guardada_casa() {
+    local ini=${1:-$carpeta}/TESEL32.INI
+    grep -q '^"CASA.JPG"' <(sed -n 13p "$ini") ||
+        falla "the saved game is not of the chosen picture: $(sed -n 13p "$ini")"
+}
+
+# A saved game of 123.BMP with one piece off its place, written by the
+# generator into the program's folder (with HISTORIA records of other days
+# in the history file, if given). Leaves the loose piece's point in x, y and
+# its home's in xc, yc.
+escribe_partida() {
+    local puntos
+    puntos=$("$generador" "$carpeta" 123.BMP "$ANCHO" "$ALTO" "$@") || falla "no saved game was written"
+    read -r x y xc yc <<<"$puntos"
+    echo "the loose piece at ($x, $y), its home at ($xc, $yc)"
+}
+
+# The loose piece dragged home in eight steps, as a hand makes it.
+arrastra_a_casa() {
+    xdotool mousemove "$x" "$y" mousedown 1
+    local paso
+    for paso in 1 2 3 4 5 6 7 8; do
+        xdotool mousemove $((x + (xc - x) * paso / 8)) $((y + (yc - y) * paso / 8))
+        sleep 0.05
+    done
+    xdotool mouseup 1
+}

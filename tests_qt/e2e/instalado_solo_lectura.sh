@@ -61,19 +61,10 @@ for f in 123.BMP FORMAS.BMP CAMPANA.JPG CASA.JPG CATEDRAL.JPG FUENTE.JPG PALMERA
     cmp -s "$prefijo/share/teselari/$f" "$datos/$f" || falla "$f was not copied to $datos"
 done
 xdotool key space
-espera_nombre '^Personalizar la aplicación$'
-sleep 1
-izquierda=$(((ANCHO - 640) / 2))
-arriba=$(((ALTO - 480) / 2))
-xdotool mousemove $((izquierda + 183)) $((arriba + 95)) click 1
-sleep 1
-xdotool mousemove $((izquierda + 586)) $((arriba + 442)) click 1
-espera_ventana
-sleep 1
+elige_casa
 import -window root "$salida/primera.png"
 sale_con_boton_11 "$datos"
-grep -q '^"CASA.JPG"' <(sed -n 13p "$datos/TESEL32.INI") ||
-    falla "the saved game is not of the chosen picture: $(sed -n 13p "$datos/TESEL32.INI")"
+guardada_casa "$datos"
 [[ ! -e "$prefijo/share/teselari/TESEL32.INI" ]] || falla "the game wrote into its prefix"
 cp "$datos/TESEL32.INI" "$salida/primera.ini"
 

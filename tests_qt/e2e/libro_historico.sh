@@ -20,8 +20,7 @@ salida=$3
 source "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 
 copia_programa
-puntos=$("$generador" "$carpeta" 123.BMP "$ANCHO" "$ALTO" 5) || falla "no saved game was written"
-read -r x y xc yc <<<"$puntos"
+escribe_partida 5
 antes=$(wc -l <"$carpeta/TESEL32.HIS")
 [[ "$antes" -eq 5 ]] || falla "the history written holds $antes lines, not 5"
 cp "$carpeta/TESEL32.HIS" "$salida/antes.his"
@@ -32,12 +31,7 @@ espera_ventana
 sleep 1
 
 # The last piece home, as a hand drags it; the message answered by a key.
-xdotool mousemove "$x" "$y" mousedown 1
-for paso in 1 2 3 4 5 6 7 8; do
-    xdotool mousemove $((x + (xc - x) * paso / 8)) $((y + (yc - y) * paso / 8))
-    sleep 0.05
-done
-xdotool mouseup 1
+arrastra_a_casa
 espera_nombre '^TESELARI$'
 xdotool key Return
 sleep 0.5

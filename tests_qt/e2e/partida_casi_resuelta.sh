@@ -17,9 +17,7 @@ salida=$3
 source "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 
 copia_programa
-puntos=$("$generador" "$carpeta" 123.BMP "$ANCHO" "$ALTO") || falla "no saved game was written"
-read -r x y xc yc <<<"$puntos"
-echo "the loose piece at ($x, $y), its home at ($xc, $yc)"
+escribe_partida
 cp "$carpeta/TESEL32.INI" "$salida/antes.ini"
 
 arranca_pantalla
@@ -33,13 +31,7 @@ import -window root "$salida/restaurada.png" || falla "no screenshot"
 fuera=$(convert "$salida/restaurada.png" -format "%[hex:p{$xc,$yc}]" info:)
 echo "at home before the drag: $fuera"
 
-# The drag, in steps as a hand makes it.
-xdotool mousemove "$x" "$y" mousedown 1
-for paso in 1 2 3 4 5 6 7 8; do
-    xdotool mousemove $((x + (xc - x) * paso / 8)) $((y + (yc - y) * paso / 8))
-    sleep 0.05
-done
-xdotool mouseup 1
+arrastra_a_casa
 sleep 1
 import -window root "$salida/final.png"
 

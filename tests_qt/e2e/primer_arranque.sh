@@ -29,19 +29,7 @@ espera_nombre '^Error leyendo fichero de datos iniciales$'
 sleep 0.5
 import -window root "$salida/mensaje.png"
 xdotool key space
-espera_nombre '^Personalizar la aplicación$'
-sleep 1
-import -window root "$salida/dialogo.png"
-# The dialog stands in the middle of the screen; its third file is chosen
-# and accepted with the tick.
-izquierda=$(((ANCHO - 640) / 2))
-arriba=$(((ALTO - 480) / 2))
-xdotool mousemove $((izquierda + 183)) $((arriba + 95)) click 1
-sleep 1
-import -window root "$salida/elegida.png"
-xdotool mousemove $((izquierda + 586)) $((arriba + 442)) click 1
-espera_ventana
-sleep 1
+elige_casa "$salida"
 
 geometria=$(xdotool getwindowgeometry "$ventana")
 echo "$geometria"
@@ -60,6 +48,5 @@ echo "colours on the board: $tablero"
 [[ "$tablero" -ge 256 ]] || falla "only $tablero colours left of the panel: no board was dealt"
 
 sale_con_boton_11
-grep -q '^"CASA.JPG"' <(sed -n 13p "$carpeta/TESEL32.INI") ||
-    falla "the saved game is not of the chosen picture: $(sed -n 13p "$carpeta/TESEL32.INI")"
+guardada_casa
 echo "passed"
