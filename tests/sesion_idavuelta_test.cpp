@@ -1,37 +1,12 @@
 // A saved game read back: the same game, on the same board.
 #include "board/Barajar.h"
 #include "sesion_comun.h"
+#include "session/SesionTexto.h"
 
 using namespace PuzzGbl;
 using namespace sesion_prueba;
 
 namespace {
-
-// Everything the file keeps, as it stands now.
-struct Foto {
-    std::string fichero, nombreImagen, jugador;
-    std::vector<int16_t> ajustes;
-    int32_t segundos;
-    bool modelo;
-    std::array<bool, 12> siempre, derecho;
-    std::vector<Pieza> piezas;
-    std::vector<int16_t> orden;
-    bool operator==(const Foto &) const = default;
-};
-
-Foto TomaFoto() {
-    return {FicheroImagen,
-            NombreImagen,
-            NombreJugador,
-            {FactorPegado, ColorFondo, Cronometro, Velocidad, Sonido, Pistas, NroPiezas,
-             PiezasPorLado, PuzzleCompleto, TipoPieza, PiezasDobles, PartidaValida, Zoom},
-            SegundosCronometro,
-            ModeloVisible,
-            BotonEnSiempre,
-            BotonEnDerecho,
-            Piezas,
-            OrdenPiezas};
-}
 
 class SesionIdaYVuelta : public Sesion,
                          public ::testing::WithParamInterface<std::tuple<int, int>> {};
@@ -60,14 +35,15 @@ TEST_P(SesionIdaYVuelta, LaPartidaGuardadaVuelveIgual) {
     Barajar();
     SesionRestaurando = FALSO;
     const uint64_t tablero = Huella(teselari.Pic_Imagen);
-    const Foto guardada = TomaFoto();
+    const std::string guardada = TextoSesion(); // everything the file keeps
     GuardaSesion();
 
     PreparaPantalla();
     DirectorioTrabajo = programa;
     RestauraSesion();
     EXPECT_TRUE(mensajes.empty());
-    EXPECT_EQ(TomaFoto(), guardada);
+    EXPECT_EQ(TextoSesion(), guardada);
+    EXPECT_TRUE(PartidaCoherente());
     EXPECT_EQ(ImagenValida, VERDADERO);
     EXPECT_EQ(SesionRestaurando, FALSO);
     EXPECT_EQ(teselari.Pic_Origin.Ancho(), 480);

@@ -2,6 +2,7 @@
 // file brings back a whole game and is written out again byte for byte, so
 // the corpus stays a set of valid files as the format moves on.
 #include <algorithm>
+#include <filesystem>
 
 #include "sesion_comun.h"
 #include "session/SesionTexto.h"
@@ -37,14 +38,7 @@ TEST_P(SesionSemillas, LaSemillaEsUnaPartidaQueSeGuardaIgual) {
 
 INSTANTIATE_TEST_SUITE_P(Corpus, SesionSemillas, ::testing::ValuesIn(FicherosSemilla()),
                          [](const ::testing::TestParamInfo<std::string> &i) {
-                             std::string nombre = std::filesystem::path(i.param).stem().string();
-                             std::replace_if(
-                                 nombre.begin(), nombre.end(),
-                                 [](char c) {
-                                     return !std::isalnum(static_cast<unsigned char>(c));
-                                 },
-                                 '_');
-                             return nombre;
+                             return std::filesystem::path(i.param).stem().string();
                          });
 
 } // namespace

@@ -93,7 +93,6 @@ TEST_F(Sesion, LaCarpetaDeDatosSigueAXdgOALaCarpetaPersonal) {
         {"/var/datos", "/var/datos/teselari/"},
         {"/var/datos/", "/var/datos/teselari/"},
         {nullptr, raiz + "/casa/.local/share/teselari/"},
-        {"", raiz + "/casa/.local/share/teselari/"},
         {"relativa/datos", raiz + "/casa/.local/share/teselari/"}, // not valid: passed over
     };
     for (const Caso &c : casos) {
@@ -113,17 +112,6 @@ TEST_F(Sesion, LaCarpetaDelProgramaSeGuardaSinBarraFinal) {
         PonServicio(&ServiciosPlataforma::DirectorioPrograma, dado);
         EXPECT_EQ(DirectorioPrograma(), guardado);
     }
-}
-
-TEST_F(Sesion, LaUnidadDeUnaCarpetaEsUnPuntoDeMontajeQueLaContiene) {
-    for (const std::string &carpeta : {programa, std::string("/"), datos + "/no/existe"}) {
-        const std::string unidad = UnidadDeCarpeta(carpeta);
-        ASSERT_FALSE(unidad.empty());
-        EXPECT_EQ(unidad[0], '/');
-        const std::string prefijo = unidad == "/" ? unidad : unidad + "/";
-        EXPECT_TRUE(carpeta == unidad || carpeta.rfind(prefijo, 0) == 0) << carpeta;
-    }
-    EXPECT_EQ(UnidadDeCarpeta("/"), "/");
 }
 
 TEST_F(Sesion, LaCarpetaDelProgramaInstaladoEsLaDeDatosJuntoAlEjecutable) {
