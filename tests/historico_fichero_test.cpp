@@ -9,7 +9,6 @@
 #include "board/Arrastre.h"
 #include "board/Raton.h"
 #include "historico_comun.h"
-#include "plataforma_prueba.h"
 
 using namespace PuzzGbl;
 

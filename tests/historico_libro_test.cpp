@@ -1,14 +1,10 @@
 // The book Historic: its sorted sections, the turning of pages, the tabs,
 // the patches over them, the mouse, the name, and what it writes where.
-#include <cmath>
-
 #include "core/Cronometro.h"
 #include "historico_comun.h"
 #include "history/FormHistoric.h"
 #include "history/ServiciosHistorico.h"
 #include "panels/Comandos.h"
-#include "plataforma_prueba.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 
@@ -179,6 +175,8 @@ TEST_P(Paginas, AdelanteYAtrasPorTodoElLibro) {
     EXPECT_TRUE(f.Tex_Nombre.Visible);
     EXPECT_FALSE(f.Pic_Parche1.Visible);
     EXPECT_EQ(PestanasVisibles(f, 2), Secciones(1, 4));
+    EXPECT_EQ(f.Pic_Tapa[1].Left, 3);
+    EXPECT_EQ(f.Pic_Tapa[2].Left, 512);
     f.PaginaAnterior();
     EXPECT_EQ(f.MarcaLibro, 0);
 }

@@ -72,7 +72,7 @@ class SesionDanada : public Sesion, public ::testing::WithParamInterface<CasoDan
     // A 4 x 4 game of rectangles, its clock at 999 and out of the history
     // book, saved; a fresh deal is told from it by both.
     std::string GuardaPartida() {
-        JuegaPartida(4, 0, 480, 360);
+        JuegaPartida(4, 0);
         SegundosCronometro = 999;
         PartidaValida = FALSO;
         GuardaSesion();

@@ -1,6 +1,4 @@
 // Writing the saved game: its exact bytes, and a game that comes back whole.
-#include <filesystem>
-
 #include "sesion_comun.h"
 #include "session/SesionTexto.h"
 

@@ -1,7 +1,5 @@
 // Reading the saved game at start: the ways without a file, with a picture
 // that is gone or does not fit, and the first start.
-#include <filesystem>
-
 #include "sesion_comun.h"
 #include "session/SesionImagen.h"
 

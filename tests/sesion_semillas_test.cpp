@@ -2,7 +2,6 @@
 // file brings back a whole game and is written out again byte for byte, so
 // the corpus stays a set of valid files as the format moves on.
 #include <algorithm>
-#include <filesystem>
 
 #include "sesion_comun.h"
 #include "session/SesionTexto.h"

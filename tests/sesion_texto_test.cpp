@@ -94,6 +94,7 @@ TEST(TextoIni, LeeNumerosDeSuAnchura) {
         {"-1", -32768, 32767, -1},
         {"32767", -32768, 32767, 32767},
         {"32768", -32768, 32767, std::nullopt}, // too large for 16 bits
+        {"-32769", -32768, 32767, std::nullopt},
         {"2147483647", INT32_MIN, INT32_MAX, INT32_MAX},
         {"2147483648", INT32_MIN, INT32_MAX, std::nullopt},
         {"", -32768, 32767, std::nullopt},
