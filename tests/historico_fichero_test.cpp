@@ -188,7 +188,6 @@ class Final : public Historia {
         Historia::SetUp();
         PreparaTablero(3, 0, 300, 300);
         DirectorioTrabajo = carpeta;
-        PonServicio(&ServiciosPlataforma::Calendario, RelojFijo);
         NombreImagen = "Muñeca \"Ñ\"\nde trapo.jpg";
         NombreJugador = CadenaFija("Lucía", 9);
         SegundosCronometro = 3725;
