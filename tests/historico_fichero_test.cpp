@@ -9,7 +9,6 @@
 #include "board/Arrastre.h"
 #include "board/Raton.h"
 #include "historico_comun.h"
-#include "plataforma_prueba.h"
 
 using namespace PuzzGbl;
 
@@ -31,7 +30,8 @@ struct CasoLectura {
     std::string contenido;
     int16_t registros;
     std::vector<std::string> mensajes;
-    std::function<void()> comprueba;
+    std::vector<int> numerados; // the records read, by RegistroNumerado's number
+    std::function<void()> comprueba = nullptr;
 };
 
 class Lectura : public Historia, public ::testing::WithParamInterface<CasoLectura> {};
@@ -46,6 +46,9 @@ TEST_P(Lectura, LeeLoQueElFicheroTiene) {
     EXPECT_EQ(Historico.size(), static_cast<size_t>(c.registros) + 21);
     EXPECT_EQ(Mensajes(), c.mensajes);
     EXPECT_EQ(std::filesystem::current_path(), carpeta);
+    for (size_t i = 0; i < c.numerados.size(); ++i) {
+        EXPECT_EQ(Historico[i + 1], RegistroNumerado(c.numerados[i])) << i + 1;
+    }
     if (c.comprueba) {
         c.comprueba();
     }
@@ -66,17 +69,22 @@ std::string CampoPorLinea() {
 }
 
 const CasoLectura CASOS_LECTURA[] = {
-    {"vacio", "", 0, {}, nullptr},
-    {"solo_lineas_en_blanco", "\r\n  \r\n\n", 0, {}, nullptr},
-    {"cien", Lineas(1, 100), 100, {}, [] { EXPECT_EQ(Historico[100], RegistroNumerado(100)); }},
-    {"ciento_uno",
-     Lineas(1, 101),
-     101,
+    {"vacio", "", 0, {}, {}},
+    {"lineas_en_blanco_y_ultima_sin_fin",
+     "\r\n" + LINEA_1 + "\r\n\r\n" + SinFinal(LINEA_2),
+     2,
      {},
-     [] { EXPECT_EQ(Historico[101], RegistroNumerado(101)); }},
+     {1, 2}},
+    {"otra_division_en_lineas",
+     CampoPorLinea() + SinFinal(LINEA_2) + "," + SinFinal(LINEA_1) + "\r\n",
+     3,
+     {},
+     {1, 2, 1}},
+    {"control_z_termina", LINEA_1 + "\x1A" + LINEA_2, 1, {}, {1}},
     {"imagen_de_14_caracteres",
      "\"a\",\"b\",\"ABCDEFGHIJKLMN\",1,2,3,4,5,6,7,8.5,9,10,\"Ana\"\r\n",
      1,
+     {},
      {},
      [] {
          EXPECT_EQ(Historico[1].Imagen, "ABCDEFGHIJKL");
@@ -84,26 +92,6 @@ const CasoLectura CASOS_LECTURA[] = {
          EXPECT_EQ(Historico[1].Dificultad, 8.5f);
          EXPECT_EQ(Historico[1].Nombre, "Ana      ");
      }},
-    {"ultima_linea_sin_fin",
-     LINEA_1 + SinFinal(LINEA_2),
-     2,
-     {},
-     [] { EXPECT_EQ(Historico[2], RegistroNumerado(2)); }},
-    {"otra_division_en_lineas",
-     CampoPorLinea() + SinFinal(LINEA_2) + "," + SinFinal(LINEA_1) + "\r\n",
-     3,
-     {},
-     [] {
-         EXPECT_EQ(Historico[1], RegistroNumerado(1));
-         EXPECT_EQ(Historico[2], RegistroNumerado(2));
-         EXPECT_EQ(Historico[3], RegistroNumerado(1));
-     }},
-    {"lineas_en_blanco_entre_registros",
-     "\r\n" + LINEA_1 + "\r\n\r\n" + LINEA_2 + "\r\n",
-     2,
-     {},
-     [] { EXPECT_EQ(Historico[2], RegistroNumerado(2)); }},
-    {"control_z_termina", LINEA_1 + "\x1A" + LINEA_2, 1, {}, nullptr},
     // A number that is no number is told once, however often it comes; the
     // records still count, with 0 in the field.
     {"texto_en_numeros",
@@ -111,6 +99,7 @@ const CasoLectura CASOS_LECTURA[] = {
      "\"a\",\"b\",\"c\",1,alto,3,4,5,6,7,x,9,10,\"n\"\r\n",
      2,
      {"HIS ERROR 13"},
+     {},
      [] {
          EXPECT_EQ(Historico[1].AnchoPuzzle, 0);
          EXPECT_EQ(Historico[1].AltoPuzzle, 2);
@@ -122,6 +111,7 @@ const CasoLectura CASOS_LECTURA[] = {
     {"desbordado",
      "\"a\",\"b\",\"c\",40000,2,3,4,5,6,7,1e60,99999999999,10,\"n\"\r\n",
      1,
+     {},
      {},
      [] {
          EXPECT_EQ(Historico[1].AnchoPuzzle, 0);
@@ -136,6 +126,7 @@ const CasoLectura CASOS_LECTURA[] = {
      LINEA_1 + "\"01/01/2025\",\"10:00:00\",\"X.JPG\",640",
      2,
      {},
+     {1},
      [] {
          const RegistroHistorico &r = Historico[2];
          EXPECT_EQ(r.Imagen, "X.JPG       ");
@@ -152,23 +143,23 @@ INSTANTIATE_TEST_SUITE_P(Fichero, Lectura, ::testing::ValuesIn(CASOS_LECTURA),
 // The file that can't be read: its message by number, the book empty; a
 // missing file is told at every start while it is missing.
 TEST_F(Historia, SinFicheroLoDiceEnCadaArranque) {
-    for (int arranque = 1; arranque <= 2; ++arranque) {
-        LeeHistorico();
-        ASSERT_EQ(escritorio.mensajes.size(), static_cast<size_t>(arranque));
-        const Escritorio::Mensaje &m = escritorio.mensajes.back();
-        EXPECT_EQ(m.titulo, "Error leyendo el fichero histórico");
-        EXPECT_EQ(m.texto, "No se encuentra el fichero Histórico. Se creará de nuevo la próxima "
-                           "vez que termine de resolver un puzzle.");
-        EXPECT_EQ(m.lineas, 2);
-        EXPECT_EQ(m.botones, 1);
-        EXPECT_EQ(NroRegistrosHistorico, 0);
-        EXPECT_EQ(Historico.size(), 21u);
-    }
+    LeeHistorico();
+    ASSERT_EQ(escritorio.mensajes.size(), 1u);
+    const Escritorio::Mensaje m = escritorio.mensajes.back();
+    EXPECT_EQ(m.titulo, "Error leyendo el fichero histórico");
+    EXPECT_EQ(m.texto, "No se encuentra el fichero Histórico. Se creará de nuevo la próxima "
+                       "vez que termine de resolver un puzzle.");
+    EXPECT_EQ(m.lineas, 2);
+    EXPECT_EQ(m.botones, 1);
+    EXPECT_EQ(NroRegistrosHistorico, 0);
+    EXPECT_EQ(Historico.size(), 21u);
     // A face too wide for two lines gets the message the lines it needs.
     RotuladorPrueba ancho;
     PonServicio(&ServiciosPlataforma::Texto, &ancho);
     LeeHistorico();
     PonServicio(&ServiciosPlataforma::Texto, nullptr);
+    ASSERT_EQ(escritorio.mensajes.size(), 2u); // told again
+    EXPECT_EQ(escritorio.mensajes.back().texto, m.texto);
     EXPECT_EQ(escritorio.mensajes.back().lineas, 3);
     std::filesystem::create_directory(Ruta());
     LeeHistorico();
@@ -197,7 +188,6 @@ class Final : public Historia {
         Historia::SetUp();
         PreparaTablero(3, 0, 300, 300);
         DirectorioTrabajo = carpeta;
-        PonServicio(&ServiciosPlataforma::Calendario, RelojFijo);
         NombreImagen = "Muñeca \"Ñ\"\nde trapo.jpg";
         NombreJugador = CadenaFija("Lucía", 9);
         SegundosCronometro = 3725;
@@ -206,7 +196,7 @@ class Final : public Historia {
 
 // A fair finish appends its line in the file's exact bytes, once the
 // message is acknowledged; the file reads back as the table; finishing the
-// same deal again adds nothing, and an unfair game nothing at all.
+// same deal again, no longer a fair game, adds nothing.
 TEST_F(Final, UnaPartidaLimpiaEntraUnaVez) {
     EscribeHis(SinFinal(LINEA_1) + "\x1A"); // an old file without its last CR LF
     LeeHistorico();
@@ -238,46 +228,27 @@ TEST_F(Final, UnaPartidaLimpiaEntraUnaVez) {
     EXPECT_EQ(NroRegistrosHistorico, 2);
 }
 
-TEST_F(Final, UnaPartidaNoValidaNoEntra) {
-    PartidaValida = FALSO;
-    TerminaLaPartida();
-    EXPECT_EQ(escritorio.mensajes.size(), 1u);
-    EXPECT_FALSE(std::filesystem::exists(Ruta()));
-    EXPECT_EQ(NroRegistrosHistorico, 0);
-}
-
-struct CasoFallo {
-    const char *nombre;
-    void (*accion)();
-};
-
-class FalloAlEscribir : public Historia, public ::testing::WithParamInterface<CasoFallo> {};
-
-// A full disk or a kill halfway through the write: the old records stay
+// A kill halfway through the write, or a full disk: the old records stay
 // whole. After a full disk the record waits, and the next write takes it.
-TEST_P(FalloAlEscribir, LosRegistrosViejosQuedanEnteros) {
+TEST_F(Historia, UnFalloAlEscribirDejaEnterosLosRegistrosViejos) {
     const std::string viejo = Lineas(1, 3);
     EscribeHis(viejo);
     LeeHistorico();
     const pid_t hijo = fork();
     ASSERT_GE(hijo, 0);
     if (hijo == 0) {
-        SimulaFalloEscritura(static_cast<int64_t>(viejo.size() + 30), GetParam().accion);
+        SimulaFalloEscritura(static_cast<int64_t>(viejo.size() + 30), [] { raise(SIGKILL); });
         AnadeHistorico();
-        _exit(LeeHis() == viejo && !LineasHistoricoPendientes.empty() ? 0 : 1);
+        _exit(1);
     }
     int estado = 0;
     ASSERT_EQ(waitpid(hijo, &estado, 0), hijo);
-    if (GetParam().accion != nullptr) {
-        EXPECT_TRUE(WIFSIGNALED(estado) && WTERMSIG(estado) == SIGKILL);
-    } else {
-        EXPECT_TRUE(WIFEXITED(estado) && WEXITSTATUS(estado) == 0);
-    }
+    EXPECT_TRUE(WIFSIGNALED(estado) && WTERMSIG(estado) == SIGKILL);
     EXPECT_EQ(LeeHis(), viejo);
-    // In this process: a full disk, then a write that goes through.
     SimulaFalloEscritura(static_cast<int64_t>(viejo.size() + 30));
     AnadeHistorico();
     EXPECT_EQ(LeeHis(), viejo);
+    EXPECT_FALSE(LineasHistoricoPendientes.empty());
     SimulaFalloEscritura(-1);
     AnadeHistorico();
     LeeHistorico();
@@ -286,11 +257,6 @@ TEST_P(FalloAlEscribir, LosRegistrosViejosQuedanEnteros) {
     EXPECT_EQ(Historico[5].Fecha, "23/11/2026");
     EXPECT_FALSE(std::filesystem::exists(Ruta() + ".tmp"));
 }
-
-INSTANTIATE_TEST_SUITE_P(Fichero, FalloAlEscribir,
-                         ::testing::Values(CasoFallo{"disco_lleno", nullptr},
-                                           CasoFallo{"muerte", [] { raise(SIGKILL); }}),
-                         [](const auto &i) { return std::string(i.param.nombre); });
 
 // Past the 16-bit top the table holds the newest records and the file
 // keeps them all; a finish with the table full still reaches the file.

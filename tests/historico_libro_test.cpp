@@ -1,14 +1,10 @@
 // The book Historic: its sorted sections, the turning of pages, the tabs,
 // the patches over them, the mouse, the name, and what it writes where.
-#include <cmath>
-
 #include "core/Cronometro.h"
 #include "historico_comun.h"
 #include "history/FormHistoric.h"
 #include "history/ServiciosHistorico.h"
 #include "panels/Comandos.h"
-#include "plataforma_prueba.h"
-#include "services/Sonidos.h"
 
 using namespace PuzzGbl;
 
@@ -48,6 +44,26 @@ class Libro : public Historia {
         std::pair<int, int> p{numero(170), numero(421)};
         rotulador.escritos.clear();
         return p;
+    }
+    // The sections whose tabs the patch on margin `lado` (1 left, 2 right)
+    // leaves uncovered.
+    static std::vector<int> PestanasVisibles(const FormHistoric &f, int lado) {
+        const CuadroImagen &t = f.Pic_Tapa[static_cast<size_t>(lado)];
+        std::vector<int> v;
+        for (int s = 1; s <= 4; ++s) {
+            const int arriba = 30 + 72 * (s - 1), abajo = arriba + 66;
+            if (abajo < t.Top || arriba >= t.Top + t.Alto()) {
+                v.push_back(s);
+            }
+        }
+        return v;
+    }
+    static std::vector<int> Secciones(int desde, int hasta) {
+        std::vector<int> v;
+        for (int s = desde; s <= hasta; ++s) {
+            v.push_back(s);
+        }
+        return v;
     }
     RotuladorPrueba rotulador;
 };
@@ -102,6 +118,10 @@ TEST_P(Orden, LaSeccionMuestraLosRegistrosEnSuOrden) {
         f.PaginaSiguiente();
     }
     EXPECT_EQ(visto, GetParam().orden);
+    // Its tab, now on the left margin, starts it again.
+    f.Form_MouseDown(1, 0, 15, static_cast<float>(30 + 72 * (s - 1) + 10));
+    EXPECT_EQ(f.ContadorPagina, 2);
+    EXPECT_EQ(Pliego(), std::make_pair(visto[0], visto[1]));
 }
 
 INSTANTIATE_TEST_SUITE_P(Libro, Orden,
@@ -116,7 +136,9 @@ class Paginas : public Libro, public ::testing::WithParamInterface<int> {};
 // and an empty book: each section has its spreads, the last one of an odd
 // count has a left page only, one more step leaves for the next section;
 // backwards, the first spread of a section goes to the first spread of the
-// one before, and the first section to the first page.
+// one before, and the first section to the first page. The patches leave
+// the tabs of the sections passed on the left margin, those ahead on the
+// right one.
 TEST_P(Paginas, AdelanteYAtrasPorTodoElLibro) {
     const int n = GetParam();
     LlenaNumerados(n);
@@ -128,6 +150,9 @@ TEST_P(Paginas, AdelanteYAtrasPorTodoElLibro) {
             f.PaginaSiguiente();
             ASSERT_EQ(f.MarcaLibro, s);
             EXPECT_EQ(f.ContadorPagina, 2 * p);
+            EXPECT_EQ(PestanasVisibles(f, 1), Secciones(1, s));
+            EXPECT_EQ(PestanasVisibles(f, 2), Secciones(s + 1, 4));
+            EXPECT_TRUE(f.Pic_Parche1.Visible);
             const auto [izquierda, derecha] = Pliego();
             EXPECT_EQ(izquierda != 0, 2 * p - 1 <= n);
             EXPECT_EQ(derecha != 0, 2 * p <= n);
@@ -149,56 +174,14 @@ TEST_P(Paginas, AdelanteYAtrasPorTodoElLibro) {
     EXPECT_EQ(f.MarcaLibro, 0);
     EXPECT_TRUE(f.Tex_Nombre.Visible);
     EXPECT_FALSE(f.Pic_Parche1.Visible);
+    EXPECT_EQ(PestanasVisibles(f, 2), Secciones(1, 4));
+    EXPECT_EQ(f.Pic_Tapa[1].Left, 3);
+    EXPECT_EQ(f.Pic_Tapa[2].Left, 512);
     f.PaginaAnterior();
     EXPECT_EQ(f.MarcaLibro, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Libro, Paginas, ::testing::Values(0, 1, 4, 5));
-
-// The tabs a patch leaves uncovered: the sections passed on the left
-// margin, those ahead on the right one; a click on a tab of the open
-// section starts it again.
-TEST_F(Libro, LasPestanasVisiblesSiguenALaSeccion) {
-    LlenaNumerados(9);
-    FormHistoric f;
-    f.Form_Load();
-    auto visibles = [&f](int lado) {
-        const CuadroImagen &t = f.Pic_Tapa[static_cast<size_t>(lado)];
-        std::vector<int> v;
-        for (int s = 1; s <= 4; ++s) {
-            const int arriba = 30 + 72 * (s - 1), abajo = arriba + 66;
-            if (abajo < t.Top || arriba >= t.Top + t.Alto()) {
-                v.push_back(s);
-            }
-        }
-        return v;
-    };
-    const std::vector<std::vector<int>> izquierda = {{}, {1}, {1, 2}, {1, 2, 3}, {1, 2, 3, 4}};
-    for (int16_t s = 0; s <= 4; ++s) {
-        if (s > 0) {
-            f.ContadorPagina = 0;
-            f.PaginaSiguiente();
-            while (f.MarcaLibro != s) {
-                f.PaginaSiguiente();
-            }
-        }
-        EXPECT_EQ(visibles(1), izquierda[static_cast<size_t>(s)]) << s;
-        std::vector<int> derecha;
-        for (int r = s + 1; r <= 4; ++r) {
-            derecha.push_back(r);
-        }
-        EXPECT_EQ(visibles(2), derecha) << s;
-        EXPECT_EQ(f.Pic_Tapa[1].Left, 3);
-        EXPECT_EQ(f.Pic_Tapa[2].Left, 512);
-        EXPECT_EQ(f.Pic_Parche1.Visible, s > 0);
-    }
-    f.PaginaSiguiente();
-    f.PaginaSiguiente();
-    Pliego();
-    f.Form_MouseDown(2, 0, 15, 280); // the tab of section 4, now on the left
-    EXPECT_EQ(f.ContadorPagina, 2);
-    EXPECT_EQ(Pliego(), std::make_pair(1, 2)); // equal difficulties: the fastest first
-}
 
 struct CasoRaton {
     float x, y;
@@ -249,31 +232,11 @@ TEST_F(Libro, ElRatonSobreElLibro) {
     }
 }
 
-// The name box shows the name without its padding; what is typed becomes
-// NombreJugador, padded or cut to nine characters.
-TEST_F(Libro, ElNombreSeEscribeEnLaPrimeraPagina) {
-    const struct {
-        std::string guardado, mostrado, tecleado, nuevo;
-    } casos[] = {{std::string(9, '\0'), "", "Lucía", "Lucía    "},
-                 {"Ana      ", "Ana", "Bartolomé Pérez", "Bartolomé"}};
-    for (const auto &c : casos) {
-        NombreJugador = c.guardado;
-        FormHistoric f;
-        f.Form_Load();
-        EXPECT_TRUE(f.Tex_Nombre.Visible);
-        EXPECT_EQ(f.Tex_Nombre.Text, c.mostrado);
-        EXPECT_EQ(NombreJugador, c.guardado);
-        f.Tex_Nombre.Text = c.tecleado;
-        f.Tex_Nombre_Change();
-        EXPECT_EQ(NombreJugador, c.nuevo);
-        f.PaginaSiguiente();
-        EXPECT_FALSE(f.Tex_Nombre.Visible);
-    }
-}
-
 // What the first page and a record's page write, where, in which form; a
 // value wider than its white column is set smaller, and one still too wide
-// at the smallest letter is cut with an ellipsis inside the column.
+// at the smallest letter is cut with an ellipsis inside the column. The
+// name box of the first page shows the name without its padding; what is
+// typed becomes NombreJugador, padded or cut to nine characters.
 TEST_F(Libro, CadaValorEnSuRenglonYDentroDeSuColumna) {
     NombreImagen = "una fotografía de vacaciones con un nombre muy largo.jpg";
     AnchoPuzzle = 640, AltoPuzzle = 480, PiezasPorLado = 8, TipoPieza = 5, NroPiezas = 128;
@@ -282,8 +245,17 @@ TEST_F(Libro, CadaValorEnSuRenglonYDentroDeSuColumna) {
     RegistroHistorico r = RegistroNumerado(1, "Eva", "CASA.JPG", 99.9f, 3661);
     r.TipoPieza = 9;
     Llena({r});
+    NombreJugador = "Ana      ";
     FormHistoric f;
     f.Form_Load();
+    EXPECT_TRUE(f.Tex_Nombre.Visible);
+    EXPECT_EQ(f.Tex_Nombre.Text, "Ana");
+    for (const auto &[tecleado, nuevo] : {std::pair<std::string, std::string>{"Lucía", "Lucía    "},
+                                          {"Bartolomé Pérez", "Bartolomé"}}) {
+        f.Tex_Nombre.Text = tecleado;
+        f.Tex_Nombre_Change();
+        EXPECT_EQ(NombreJugador, nuevo);
+    }
     const std::vector<std::pair<int, std::string>> primera = {
         {63, "640 x 480"},   {84, "8"},       {106, "Dobles"},  {148, "128"}, {169, "80 pixeles"},
         {190, "60 pixeles"}, {212, "42.063"}, {233, "1:02:05"}, {254, "Si"},  {275, "No"}};
@@ -300,6 +272,7 @@ TEST_F(Libro, CadaValorEnSuRenglonYDentroDeSuColumna) {
     EXPECT_LT(rotulador.escritos[4].tamano, 8.25);
     rotulador.escritos.clear();
     f.PaginaSiguiente();
+    EXPECT_FALSE(f.Tex_Nombre.Visible);
     const std::vector<std::pair<int, std::string>> registro = {
         {17, "R1"},      {37, "12:00:00"}, {57, "CASA.JPG"}, {118, "Dobles"}, {138, ""},
         {219, "99.900"}, {239, "1:01:01"}, {259, "50 %"},    {279, "Eva"},    {299, "1"}};

@@ -73,18 +73,6 @@ inline void EscribeImagen(const std::string &ruta, int32_t w, int32_t h) {
     EscribeFichero(ruta, "IMAGEN " + std::to_string(w) + " " + std::to_string(h) + "\n");
 }
 
-// Whether OrdenPiezas is a permutation of 1..NroPiezas.
-inline bool OrdenEsPermutacion() {
-    using namespace PuzzGbl;
-    if (NroPiezas < 1 || OrdenPiezas.size() != static_cast<size_t>(NroPiezas) + 1 ||
-        Piezas.size() != OrdenPiezas.size()) {
-        return false;
-    }
-    std::set<int16_t> vistos(OrdenPiezas.begin() + 1, OrdenPiezas.end());
-    return vistos.size() == static_cast<size_t>(NroPiezas) && *vistos.begin() == 1 &&
-           *vistos.rbegin() == NroPiezas;
-}
-
 // Every setting and flag within what a game can hold, the grid's count
 // derived from it, and the pile a permutation.
 inline ::testing::AssertionResult PartidaCoherente() {
@@ -103,7 +91,11 @@ inline ::testing::AssertionResult PartidaCoherente() {
     if (CadenaFija(NombreJugador, 9) != NombreJugador) {
         return ::testing::AssertionFailure() << "the name is not 9 characters";
     }
-    if (!OrdenEsPermutacion()) {
+    const std::set<int16_t> orden(OrdenPiezas.begin() + (OrdenPiezas.empty() ? 0 : 1),
+                                  OrdenPiezas.end());
+    if (OrdenPiezas.size() != static_cast<size_t>(NroPiezas) + 1 ||
+        Piezas.size() != OrdenPiezas.size() || orden.size() != static_cast<size_t>(NroPiezas) ||
+        *orden.begin() != 1 || *orden.rbegin() != NroPiezas) {
         return ::testing::AssertionFailure() << "OrdenPiezas is not a permutation";
     }
     return ::testing::AssertionSuccess();
@@ -195,9 +187,8 @@ class Sesion : public Motor {
         teselari.Pic_BotonesSiempre.Move(1024 - 16 - 62, 0, 62, 667);
     }
 
-    // A dealt game of a picture file of w x h in the program's folder.
-    void JuegaPartida(int16_t lado, int16_t tipo, int32_t w, int32_t h,
-                      const std::string &nombre = "foto.img");
+    // A dealt game of foto.img, 480 x 360, in the program's folder.
+    void JuegaPartida(int16_t lado, int16_t tipo);
 
     sesion_prueba::VariableGuardada xdg{"XDG_DATA_HOME"};
     sesion_prueba::VariableGuardada home{"HOME"};
@@ -205,16 +196,15 @@ class Sesion : public Motor {
     std::filesystem::path antes;
 };
 
-inline void Sesion::JuegaPartida(int16_t lado, int16_t tipo, int32_t w, int32_t h,
-                                 const std::string &nombre) {
+inline void Sesion::JuegaPartida(int16_t lado, int16_t tipo) {
     using namespace PuzzGbl;
-    const std::string ruta = programa + "/" + nombre;
-    sesion_prueba::EscribeImagen(ruta, w, h);
+    const std::string ruta = programa + "/foto.img";
+    sesion_prueba::EscribeImagen(ruta, 480, 360);
     PiezasPorLado = lado;
     TipoPieza = tipo;
     PiezasDobles = tipo >= 2 ? 1 : 0;
     FicheroImagen = ruta;
-    NombreImagen = nombre;
+    NombreImagen = "foto.img";
     Zoom = 100;
     ImagenValida = VERDADERO;
     ASSERT_TRUE(CargaImagen(ruta, teselari.Pic_Origin).Leida());

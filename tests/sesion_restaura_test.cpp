@@ -1,8 +1,7 @@
 // Reading the saved game at start: the ways without a file, with a picture
 // that is gone or does not fit, and the first start.
-#include <filesystem>
-
 #include "sesion_comun.h"
+#include "session/SesionImagen.h"
 
 using namespace PuzzGbl;
 using namespace sesion_prueba;
@@ -75,16 +74,6 @@ TEST_F(Sesion, SinFicheroEmpiezaDeCeroConLaPrimeraMuestraQueSirve) {
     EXPECT_EQ(teselari.MousePointer, 0);
 }
 
-TEST_F(Sesion, SinFicheroNiMuestrasQuedaUnTableroEnBlanco) {
-    RestauraSesion();
-    EXPECT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(ImagenValida, FALSO);
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 320);
-    EXPECT_EQ(teselari.Pic_Origin.Alto(), 240);
-    EXPECT_EQ(teselari.Pic_Origin.Point(100, 100), COLOR_BLANCO);
-    EXPECT_TRUE(PartidaCoherente());
-}
-
 struct CasoError {
     const char *nombre;
     void (*prepara)(const std::string &raiz, const std::string &programa);
@@ -95,12 +84,6 @@ struct CasoError {
 const CasoError CASOS_ERROR[] = {
     {"CarpetaQueNoExiste",
      [](const std::string &raiz, const std::string &) { DirectorioTrabajo = raiz + "/no/existe"; },
-     76, "INI ERROR 76: No existe el fichero de inicialización"},
-    {"CarpetaBajoUnFichero",
-     [](const std::string &raiz, const std::string &) {
-         EscribeFichero(raiz + "/fichero", "x");
-         DirectorioTrabajo = raiz + "/fichero/carpeta";
-     },
      76, "INI ERROR 76: No existe el fichero de inicialización"},
     {"FicheroQueEsCarpeta",
      [](const std::string &, const std::string &programa) {
@@ -122,36 +105,67 @@ TEST_P(SesionError, UnMensajeYElPrimerInicio) {
     EXPECT_EQ(mensajes[0].lineas, 3);
     EXPECT_EQ(ErrorFichero, c.numero);
     EsperaAjustesDePrimeraVez();
+    // No sample picture either: a blank board.
+    EXPECT_EQ(ImagenValida, FALSO);
+    EXPECT_EQ(teselari.Pic_Origin.Point(100, 100), COLOR_BLANCO);
     EXPECT_TRUE(PartidaCoherente());
 }
 
 INSTANTIATE_TEST_SUITE_P(Errores, SesionError, ::testing::ValuesIn(CASOS_ERROR),
                          [](const auto &caso) { return std::string(caso.param.nombre); });
 
-struct CasoTamano {
-    int32_t w, h;
+TEST(SesionImagen, SoloSeAceptaDe320x240A1024x768) {
+    const struct {
+        int64_t w, h;
+        bool aceptada;
+    } casos[] = {{319, 240, false},  {320, 240, true},  {1024, 768, true},
+                 {1025, 768, false}, {320, 239, false}, {640, 769, false}};
+    for (const auto &c : casos) {
+        EXPECT_EQ(TamanoPermitido(c.w, c.h), c.aceptada) << c.w << " x " << c.h;
+    }
+}
+
+struct CasoImagen {
+    const char *nombre;
+    const char *fichero;   // in the program's folder; " " names none
+    const char *contenido; // nullptr: no file
     int zoom;
-    bool aceptada;
-    const char *medida; // as the message tells it
+    const char *medida;       // as the refusal tells it; nullptr: lost, not refused
+    bool soloBloque1 = false; // the saved game cut after its first line
 };
 
-class SesionTamano : public Sesion, public ::testing::WithParamInterface<CasoTamano> {};
+// The refusal tells the size at the zoom, also of a picture stating a size
+// too large to decode, even where the zoom would bring it within the
+// limits; a picture that can't be decoded is lost like a missing one, and
+// so is a good one named by a file that fails to read after it.
+const CasoImagen CASOS_IMAGEN[] = {
+    {"Ilegible", "foto.img", "no es una imagen", 100, nullptr},
+    {"SoloElBloque1", "foto.img", "IMAGEN 400 300", 100, nullptr, true},
+    {"SinNombre", " ", nullptr, 100, " 0 x 0"},
+    {"Estrecha", "foto.img", "IMAGEN 319 240", 100, " 319 x 240"},
+    {"GrandeTrasElZoom", "foto.img", "IMAGEN 1000 700", 105, " 1050 x 735"},
+    {"DesmesuradaQueCabriaConSuZoom", "foto.img", "ENORME 9000 7000", 10, " 900 x 700"},
+};
 
-TEST_P(SesionTamano, SoloSeAceptaDe320x240A1024x768TrasElZoom) {
-    const CasoTamano &c = GetParam();
-    const std::string foto = programa + "/foto.img";
-    EscribeImagen(foto, c.w, c.h);
-    EscribeFichero(programa + "/TESEL32.INI", BloquesDeAjustes(foto, c.zoom, 3, 0));
+class SesionImagenQueNoSirve : public Sesion, public ::testing::WithParamInterface<CasoImagen> {};
+
+TEST_P(SesionImagenQueNoSirve, SeAnunciaYQuedaEnBlanco) {
+    const CasoImagen &c = GetParam();
+    const std::string foto = c.fichero == std::string(" ") ? " " : programa + "/" + c.fichero;
+    if (c.contenido != nullptr) {
+        EscribeFichero(foto, c.contenido);
+    }
+    std::string ini = BloquesDeAjustes(foto, c.zoom, 3, 0, {50, 2, 2, 50, 1, 1});
+    if (c.soloBloque1) {
+        ini = DivideLineas(ini)[0] + "\r\n";
+    }
+    EscribeFichero(programa + "/TESEL32.INI", ini);
     RestauraSesion();
-    if (c.aceptada) {
-        EXPECT_TRUE(mensajes.empty());
-        EXPECT_TRUE(sonidos.empty());
-        EXPECT_EQ(ImagenValida, VERDADERO);
-        EXPECT_EQ(Zoom, c.zoom);
-        EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.w * c.zoom / 100);
-        EXPECT_EQ(teselari.Pic_Origin.Alto(), c.h * c.zoom / 100);
+    ASSERT_EQ(mensajes.size(), 1u);
+    EXPECT_EQ(ColorFondo, 2); // read before any fault: in force
+    if (c.medida == nullptr) {
+        EXPECT_EQ(mensajes[0].titulo, "Cargar Imagen");
     } else {
-        ASSERT_EQ(mensajes.size(), 1u);
         EXPECT_EQ(mensajes[0].titulo, "Imagen no válida");
         std::string texto = "El  tamaño  de  la  imagen  que  está  intentando  cargar\r\n(";
         texto += c.medida;
@@ -160,36 +174,18 @@ TEST_P(SesionTamano, SoloSeAceptaDe320x240A1024x768TrasElZoom) {
                  "               Entre 240 y 768 pixels de altura";
         EXPECT_EQ(mensajes[0].texto, texto);
         EXPECT_EQ(mensajes[0].lineas, 6);
-        EXPECT_EQ(sonidos, std::vector<int16_t>{9});
         EXPECT_EQ(Zoom, 100);
-        EXPECT_EQ(ImagenValida, FALSO);
-        EXPECT_EQ(teselari.Pic_Origin.Ancho(), 320);
-        EXPECT_EQ(teselari.Pic_Origin.Alto(), 240);
     }
+    EXPECT_EQ(sonidos, std::vector<int16_t>{9});
+    EXPECT_EQ(ImagenValida, FALSO);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 320);
+    EXPECT_EQ(teselari.Pic_Origin.Alto(), 240);
+    EXPECT_EQ(teselari.Pic_W.Ancho() * teselari.Pic_W.Alto(), 0);
     EXPECT_TRUE(PartidaCoherente());
 }
 
-INSTANTIATE_TEST_SUITE_P(Limites, SesionTamano,
-                         ::testing::Values(CasoTamano{319, 240, 100, false, " 319 x 240"},
-                                           CasoTamano{320, 240, 100, true, ""},
-                                           CasoTamano{1024, 768, 100, true, ""},
-                                           CasoTamano{1025, 768, 100, false, " 1025 x 768"},
-                                           CasoTamano{320, 239, 100, false, " 320 x 239"},
-                                           CasoTamano{640, 769, 100, false, " 640 x 769"},
-                                           CasoTamano{1024, 240, 100, true, ""},
-                                           CasoTamano{640, 480, 50, true, ""},
-                                           CasoTamano{640, 480, 45, false, " 288 x 216"},
-                                           CasoTamano{300, 200, 150, true, ""},
-                                           CasoTamano{1000, 700, 105, false, " 1050 x 735"}));
-
-TEST_F(Sesion, SinNombreDeImagenLaImagenVaciaNoCabe) {
-    EscribeFichero(programa + "/TESEL32.INI", BloquesDeAjustes(" ", 100, 3, 0));
-    RestauraSesion();
-    ASSERT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(mensajes[0].titulo, "Imagen no válida");
-    EXPECT_NE(mensajes[0].texto.find("( 0 x 0 pixels )"), std::string::npos);
-    EXPECT_TRUE(PartidaCoherente());
-}
+INSTANTIATE_TEST_SUITE_P(Limites, SesionImagenQueNoSirve, ::testing::ValuesIn(CASOS_IMAGEN),
+                         [](const auto &caso) { return std::string(caso.param.nombre); });
 
 std::string TextoImagenPerdida(const std::string &fichero) {
     std::string t = "No  se  encuentra  la  imagen  utilizada  en  la  última  sesión:\r\n\r\n";
@@ -221,78 +217,6 @@ TEST_F(Sesion, UnaImagenQueYaNoEstaSeAnunciaYLosAjustesSiguen) {
     EXPECT_EQ(FicheroImagen, programa + "/CASA.JPG");
     EXPECT_EQ(ImagenValida, VERDADERO);
     EXPECT_TRUE(PartidaCoherente());
-}
-
-TEST_F(Sesion, ConElSonidoApagadoLaImagenPerdidaNoSuena) {
-    EscribeFichero(programa + "/TESEL32.INI",
-                   BloquesDeAjustes(programa + "/no.img", 100, 3, 0, {50, 3, 2, 50, 2, 1}));
-    RestauraSesion();
-    EXPECT_EQ(mensajes.size(), 1u);
-    EXPECT_TRUE(sonidos.empty());
-}
-
-TEST_F(Sesion, UnErrorDeLecturaEnLosAjustesDaLaImagenPorPerdida) {
-    const std::string foto = programa + "/foto.img";
-    EscribeImagen(foto, 400, 300);
-    struct Caso {
-        const char *nombre;
-        std::string fichero;
-    };
-    const std::string bueno = BloquesDeAjustes(foto, 100, 4, 0, {40, 2, 1, 30, 1, 1});
-    const std::vector<std::string> lineas = DivideLineas(bueno);
-    std::string soloBloque1 = lineas[0] + "\r\n";
-    std::string textoEnNumero = bueno;
-    textoEnNumero.replace(textoEnNumero.find(",30,"), 4, ",xx,");
-    std::string grande = bueno;
-    grande.replace(grande.find(",30,"), 4, ",99999,");
-    const Caso casos[] = {{"solo el bloque 1", soloBloque1},
-                          {"texto en un número", textoEnNumero},
-                          {"número sin cabida", grande}};
-    for (const Caso &c : casos) {
-        PreparaPantalla();
-        DirectorioTrabajo = programa;
-        mensajes.clear();
-        EscribeFichero(programa + "/TESEL32.INI", c.fichero);
-        RestauraSesion();
-        ASSERT_EQ(mensajes.size(), 1u) << c.nombre;
-        EXPECT_EQ(mensajes[0].titulo, "Cargar Imagen") << c.nombre;
-        EXPECT_EQ(FicheroImagen, foto) << c.nombre;
-        EXPECT_EQ(ColorFondo, 2) << c.nombre; // read before the fault: in force
-        EXPECT_TRUE(PartidaCoherente()) << c.nombre;
-    }
-}
-
-// A picture that is there but can't be decoded is lost like a missing one;
-// one stating a size too large to decode is refused with that size at the
-// zoom, even where the zoom would have brought it within the limits.
-TEST_F(Sesion, UnaImagenIlegibleSePierdeYUnaDesmesuradaSeRechaza) {
-    struct Caso {
-        const char *nombre;
-        std::string contenido;
-        int16_t zoom;
-        const char *titulo;
-        const char *medida;
-    };
-    const Caso casos[] = {
-        {"ilegible", "no es una imagen", 100, "Cargar Imagen", ""},
-        {"enorme", "ENORME 100000 100000", 100, "Imagen no válida", "( 100000 x 100000 pixels )"},
-        {"enorme con zoom", "ENORME 100000 80000", 5, "Imagen no válida", "( 5000 x 4000 pixels )"},
-        {"cabría con su zoom", "ENORME 9000 7000", 10, "Imagen no válida", "( 900 x 700 pixels )"},
-    };
-    for (const Caso &c : casos) {
-        PreparaPantalla();
-        DirectorioTrabajo = programa;
-        mensajes.clear();
-        const std::string foto = programa + "/foto.img";
-        EscribeFichero(foto, c.contenido);
-        EscribeFichero(programa + "/TESEL32.INI", BloquesDeAjustes(foto, c.zoom, 3, 0));
-        RestauraSesion();
-        ASSERT_EQ(mensajes.size(), 1u) << c.nombre;
-        EXPECT_EQ(mensajes[0].titulo, c.titulo) << c.nombre;
-        EXPECT_NE(mensajes[0].texto.find(c.medida), std::string::npos) << c.nombre;
-        EXPECT_EQ(teselari.Pic_W.Ancho() * teselari.Pic_W.Alto(), 0) << c.nombre;
-        EXPECT_TRUE(PartidaCoherente()) << c.nombre;
-    }
 }
 
 TEST_F(Sesion, FueraDeLaCarpetaDelProgramaElDialogoAbreEnLaDeTrabajo) {

@@ -37,14 +37,7 @@ TEST_P(SesionSemillas, LaSemillaEsUnaPartidaQueSeGuardaIgual) {
 
 INSTANTIATE_TEST_SUITE_P(Corpus, SesionSemillas, ::testing::ValuesIn(FicherosSemilla()),
                          [](const ::testing::TestParamInfo<std::string> &i) {
-                             std::string nombre = std::filesystem::path(i.param).stem().string();
-                             std::replace_if(
-                                 nombre.begin(), nombre.end(),
-                                 [](char c) {
-                                     return !std::isalnum(static_cast<unsigned char>(c));
-                                 },
-                                 '_');
-                             return nombre;
+                             return std::filesystem::path(i.param).stem().string();
                          });
 
 } // namespace

@@ -10,20 +10,6 @@ struct Conversion {
     const char *cp1252;
 };
 
-TEST(TextoIni, ConvierteAWindows1252YVuelve) {
-    const Conversion casos[] = {
-        {"abc", "abc"},          {"Ó", "\xD3"},
-        {"año", "a\xF1o"},       {"€ … ‰ Œ Ÿ ž", "\x80 \x85 \x89 \x8C \x9F \x9E"},
-        {"¡¿ÿ", "\xA1\xBF\xFF"},
-    };
-    for (const Conversion &c : casos) {
-        EXPECT_EQ(AWindows1252(c.utf8), c.cp1252) << c.utf8;
-        EXPECT_EQ(DeWindows1252(c.cp1252), c.utf8) << c.utf8;
-    }
-    // NULs travel as they are (the untyped player's name).
-    EXPECT_EQ(AWindows1252(std::string(9, '\0')), std::string(9, '\0'));
-}
-
 TEST(TextoIni, LoQueNoCabeEnLaPaginaEsInterrogacion) {
     const Conversion casos[] = {
         {"日本", "??"}, // outside the code page
@@ -41,23 +27,14 @@ TEST(TextoIni, LoQueNoCabeEnLaPaginaEsInterrogacion) {
     }
 }
 
+// Every byte, NUL too (the untyped player's name), read from the code page
+// and written back.
 TEST(TextoIni, CadaByteVuelveIgual) {
     std::string todos;
-    for (int b = 1; b < 256; ++b) {
+    for (int b = 0; b < 256; ++b) {
         todos += static_cast<char>(b);
     }
     EXPECT_EQ(AWindows1252(DeWindows1252(todos)), todos);
-}
-
-TEST(TextoIni, FormasEscritas) {
-    EXPECT_EQ(CampoNumero(0), "0");
-    EXPECT_EQ(CampoNumero(-1), "-1");
-    EXPECT_EQ(CampoNumero(2147483647), "2147483647");
-    EXPECT_EQ(CampoCadena("C:\\Mis imágenes"), "\"C:\\Mis im\xE1genes\"");
-    EXPECT_EQ(CampoCadena(" "), "\" \"");
-    EXPECT_EQ(CampoLogico(true), "#TRUE#");
-    EXPECT_EQ(CampoLogico(false), "#FALSE#");
-    EXPECT_EQ(LineaIni({"1", "\"a,b\"", "#TRUE#"}), "1,\"a,b\",#TRUE#\r\n");
 }
 
 // A string goes in Windows-1252 when the code page has it, byte for byte,
@@ -65,11 +42,9 @@ TEST(TextoIni, FormasEscritas) {
 TEST(TextoIni, CadenasDeIdaYVuelta) {
     const Conversion casos[] = {
         {"/home/ana/Imágenes/año.jpg", "/home/ana/Im\xE1genes/a\xF1o.jpg"},
-        {"€ “Œ” ÿ", "\x80 \x93\x8C\x94 \xFF"},
+        {"€ “Œ” ÿ … ‰ Ÿ ž ¡¿Ó", "\x80 \x93\x8C\x94 \xFF \x85 \x89 \x9F \x9E \xA1\xBF\xD3"},
         {"Ã©", nullptr}, // its Windows-1252 bytes would read as UTF-8
         {"/home/Фото/кот.jpg", nullptr},
-        {"/φωτογραφίες/θάλασσα.bmp", nullptr},
-        {"/图片/猫.jpg", nullptr},
         {"/fotos/🐈 y año.jpg", nullptr},
     };
     for (const Conversion &c : casos) {
@@ -116,7 +91,6 @@ struct LecturaNumero {
 
 TEST(TextoIni, LeeNumerosDeSuAnchura) {
     const LecturaNumero casos[] = {
-        {"0", -32768, 32767, 0},
         {"-1", -32768, 32767, -1},
         {"32767", -32768, 32767, 32767},
         {"32768", -32768, 32767, std::nullopt}, // too large for 16 bits
@@ -125,9 +99,7 @@ TEST(TextoIni, LeeNumerosDeSuAnchura) {
         {"2147483648", INT32_MIN, INT32_MAX, std::nullopt},
         {"", -32768, 32767, std::nullopt},
         {"12a", -32768, 32767, std::nullopt},
-        {"1.5", -32768, 32767, std::nullopt},
         {"+5", -32768, 32767, std::nullopt},
-        {"#TRUE#", -32768, 32767, std::nullopt},
         {"99999999999999999999999", INT32_MIN, INT32_MAX, std::nullopt},
     };
     for (const LecturaNumero &c : casos) {

@@ -1,8 +1,5 @@
 // The working folder: the program's own when it can be written, else the
 // user's data folder with the program's files copied once.
-#include <filesystem>
-
-#include "plataforma_prueba.h"
 #include "sesion_comun.h"
 
 using namespace PuzzGbl;
@@ -40,14 +37,19 @@ TEST_F(Sesion, UnaCarpetaQueNoSePuedeEscribirPasaALaDeDatosYCopiaUnaVez) {
     }
     EscribeFichero(programa + "/OTRO.JPG", "no es de la lista");
     BloqueaEscritura(programa);
+    // One already in the data folder, with no initialisation file: kept.
+    const std::string trabajo = datos + "/teselari/";
+    EscribeFichero(programa + "/123.BMP", "123");
+    fs::create_directories(trabajo);
+    EscribeFichero(trabajo + "123.BMP", "cambiada");
 
     CompruebaSiCD();
-    const std::string trabajo = datos + "/teselari/";
     EXPECT_EQ(DirectorioTrabajo, trabajo);
     EXPECT_EQ(fs::current_path(), fs::path(datos + "/teselari"));
     for (const auto &[nombre, contenido] : FICHEROS) {
         EXPECT_EQ(LeeFichero(trabajo + nombre), contenido) << nombre;
     }
+    EXPECT_EQ(LeeFichero(trabajo + "123.BMP"), "cambiada");
     EXPECT_FALSE(fs::exists(trabajo + "OTRO.JPG"));
     EXPECT_FALSE(fs::exists(trabajo + "CATEDRAL.JPG")); // missing: skipped
 
@@ -61,18 +63,6 @@ TEST_F(Sesion, UnaCarpetaQueNoSePuedeEscribirPasaALaDeDatosYCopiaUnaVez) {
     EXPECT_EQ(LeeFichero(trabajo + "TESEL32.INI"), "partida siguiente");
     EXPECT_EQ(LeeFichero(trabajo + "TESEL32.HIS"), "historia siguiente");
     EXPECT_FALSE(fs::exists(trabajo + "CASA.JPG"));
-}
-
-TEST_F(Sesion, SinFicheroDeInicioSeCopiaLoQueFaltaSinPisarLoQueHay) {
-    EscribeFichero(programa + "/CASA.JPG", "casa");
-    EscribeFichero(programa + "/123.BMP", "123");
-    BloqueaEscritura(programa);
-    const std::string trabajo = datos + "/teselari/";
-    fs::create_directories(trabajo);
-    EscribeFichero(trabajo + "CASA.JPG", "cambiada");
-    CompruebaSiCD();
-    EXPECT_EQ(LeeFichero(trabajo + "CASA.JPG"), "cambiada");
-    EXPECT_EQ(LeeFichero(trabajo + "123.BMP"), "123");
 }
 
 TEST_F(Sesion, UnaCarpetaBajoUnFicheroTambienPasaALaDeDatos) {
@@ -113,17 +103,6 @@ TEST_F(Sesion, LaCarpetaDelProgramaSeGuardaSinBarraFinal) {
         PonServicio(&ServiciosPlataforma::DirectorioPrograma, dado);
         EXPECT_EQ(DirectorioPrograma(), guardado);
     }
-}
-
-TEST_F(Sesion, LaUnidadDeUnaCarpetaEsUnPuntoDeMontajeQueLaContiene) {
-    for (const std::string &carpeta : {programa, std::string("/"), datos + "/no/existe"}) {
-        const std::string unidad = UnidadDeCarpeta(carpeta);
-        ASSERT_FALSE(unidad.empty());
-        EXPECT_EQ(unidad[0], '/');
-        const std::string prefijo = unidad == "/" ? unidad : unidad + "/";
-        EXPECT_TRUE(carpeta == unidad || carpeta.rfind(prefijo, 0) == 0) << carpeta;
-    }
-    EXPECT_EQ(UnidadDeCarpeta("/"), "/");
 }
 
 TEST_F(Sesion, LaCarpetaDelProgramaInstaladoEsLaDeDatosJuntoAlEjecutable) {
