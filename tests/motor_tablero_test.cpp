@@ -156,3 +156,20 @@ TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
     }
     PonServicio(&ServiciosPlataforma::Texto, nullptr);
 }
+
+// The bars move the work area, a bar's value stays within its range, and a
+// new picture brings the board back to the origin.
+TEST_F(Motor, LasBarrasMuevenElTrabajo) {
+    PreparaJuego(4, 0, 1024, 768);
+    SesionRestaurando = VERDADERO;
+    PreparaBitmap();
+    teselari.BarraHor.PonValue(100);
+    teselari.BarraVer.PonValue(50);
+    EXPECT_EQ(teselari.Pic_Trabajo.Left, -100);
+    EXPECT_EQ(teselari.Pic_Trabajo.Top, -50);
+    teselari.BarraHor.PonValue(100000);
+    EXPECT_EQ(teselari.Pic_Trabajo.Left, -teselari.BarraHor.Max());
+    PreparaBitmap();
+    EXPECT_EQ(teselari.Pic_Trabajo.Left, 0);
+    EXPECT_EQ(teselari.Pic_Trabajo.Top, 0);
+}
