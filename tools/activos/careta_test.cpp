@@ -91,10 +91,7 @@ TEST(ArteCareta, UnaPasadaDevuelveLosFicherosGuardados) {
     }
     QFile nuevo(tmp.path() + "/iconos/teselari.svg"), guardado(Carpeta + "/iconos/teselari.svg");
     ASSERT_TRUE(nuevo.open(QIODevice::ReadOnly) && guardado.open(QIODevice::ReadOnly));
-    const QByteArray svg = nuevo.readAll();
-    EXPECT_EQ(svg, guardado.readAll());
-    EXPECT_TRUE(svg.contains("viewBox=\"0 0 64 64\""));
-    EXPECT_EQ(svg.count("<path "), 5);
+    EXPECT_EQ(nuevo.readAll(), guardado.readAll());
 }
 
 } // namespace
