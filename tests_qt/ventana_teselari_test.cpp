@@ -9,6 +9,7 @@
 
 #include "core/PuzzGbl.h"
 #include "qt/VentanaTeselari.h"
+#include "qt/VistaSuperficie.h"
 
 using namespace PuzzGbl;
 

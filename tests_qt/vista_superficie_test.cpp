@@ -129,6 +129,7 @@ TEST(VistaSuperficie, ElRatonLlegaConBotonesYCoordenadasDeLaSuperficie) {
     QTest::mousePress(&vista, Qt::RightButton, Qt::ControlModifier, QPoint(100, 101));
     QTest::mouseRelease(&vista, Qt::RightButton, Qt::NoModifier, QPoint(100, 101));
     QTest::mousePress(&vista, Qt::MiddleButton, Qt::AltModifier | Qt::ShiftModifier, QPoint(3, 4));
+    QTest::mouseRelease(&vista, Qt::MiddleButton, Qt::NoModifier, QPoint(3, 4));
 
     ASSERT_EQ(pulsa.size(), 3u);
     EXPECT_EQ(pulsa[0].boton, 1);
@@ -143,7 +144,7 @@ TEST(VistaSuperficie, ElRatonLlegaConBotonesYCoordenadasDeLaSuperficie) {
     EXPECT_EQ(mueve.back().boton, 1); // the left button is held
     EXPECT_FLOAT_EQ(mueve.back().x, 50.0f);
     EXPECT_FLOAT_EQ(mueve.back().y, 60.0f);
-    ASSERT_EQ(suelta.size(), 2u);
+    ASSERT_EQ(suelta.size(), 3u);
     EXPECT_EQ(suelta[0].boton, 1);
     EXPECT_FLOAT_EQ(suelta[0].x, 51.0f);
     EXPECT_EQ(suelta[1].boton, 2);

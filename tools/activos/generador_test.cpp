@@ -12,6 +12,7 @@
 
 #include "ComparaImagenes.h"
 #include "Escritura.h"
+#include "Iconos.h"
 #include "Muestras.h"
 #include "Sonidos.h"
 
