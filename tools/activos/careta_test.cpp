@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QImage>
 #include <QTemporaryDir>
 #include <sstream>
@@ -15,20 +14,13 @@
 #include "ComparaImagenes.h"
 #include "IconoJuego.h"
 
+// The text is drawn from the font files, which wants an application (the
+// one of generador_test.cpp, in the same executable).
+void AseguraAplicacion();
+
 namespace {
 
 const QString Carpeta = QStringLiteral(TESELARI_CARPETA_ACTIVOS);
-
-// The text is drawn from the font files, which wants an application.
-void AseguraAplicacion() {
-    static int argc = 1;
-    static char nombre[] = "teselari_activos_tests";
-    static char *argv[] = {nombre, nullptr};
-    if (QGuiApplication::instance() == nullptr) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static QGuiApplication app(argc, argv);
-    }
-}
 
 struct Banda {
     const char *fichero;

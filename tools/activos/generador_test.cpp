@@ -25,8 +25,10 @@ QByteArray LeeBytes(const QString &ruta) {
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
+} // namespace
+
 // Text is drawn from the font files, but an application without a display
-// keeps Qt's font machinery quiet.
+// keeps Qt's font machinery quiet. The splash's tests call it too.
 void AseguraAplicacion() {
     static int argc = 1;
     static char nombre[] = "teselari_activos_tests";
@@ -36,8 +38,6 @@ void AseguraAplicacion() {
         static QGuiApplication app(argc, argv);
     }
 }
-
-} // namespace
 
 // --- a whole run ---
 
