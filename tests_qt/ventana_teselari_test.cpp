@@ -1,13 +1,11 @@
 // The main form on the screen: the controls mirrored from the plain state,
-// the scroll bars that move the work area, the mouse on the work area in
-// surface coordinates, and the hourglass of the whole screen.
+// the scroll bars that move the work area, and the hourglass of the whole
+// screen. The mouse on a scrolled work area is the drag of juego_raton_test;
+// the panels over the work area are paneles_pantalla_test.
 #include <QApplication>
 #include <QScrollBar>
 #include <QTest>
-#include <QWindow>
-#include <algorithm>
 #include <gtest/gtest.h>
-#include <vector>
 
 #include "core/PuzzGbl.h"
 #include "qt/VentanaTeselari.h"
@@ -16,11 +14,6 @@
 using namespace PuzzGbl;
 
 namespace {
-
-struct Llamada {
-    int16_t boton;
-    float x, y;
-};
 
 class VentanaTest : public testing::Test {
   protected:
@@ -74,65 +67,6 @@ TEST_F(VentanaTest, LasBarrasMuevenElAreaDeTrabajo) {
     ventana->Atiende([] { teselari.BarraHor.PonValue(7); });
     EXPECT_EQ(ventana->BarraHor->value(), 7);
     EXPECT_EQ(ventana->Pic_Trabajo->pos(), QPoint(-7, -248));
-}
-
-TEST_F(VentanaTest, ElRatonSobreElAreaDesplazadaDaCoordenadasDeLaSuperficie) {
-    std::vector<Llamada> pulsa, mueve, suelta;
-    ventana->Pic_Trabajo->AlPulsar = [&](int16_t b, int16_t, float x, float y) {
-        pulsa.push_back({b, x, y});
-    };
-    ventana->Pic_Trabajo->AlMover = [&](int16_t b, int16_t, float x, float y) {
-        mueve.push_back({b, x, y});
-    };
-    ventana->Pic_Trabajo->AlSoltar = [&](int16_t b, int16_t, float x, float y) {
-        suelta.push_back({b, x, y});
-    };
-    ventana->BarraHor->setValue(100);
-    ventana->BarraVer->setValue(30);
-    // Through the window, as the screen delivers them: window point
-    // (50, 60) is surface point (150, 90).
-    QWindow *w = ventana->windowHandle();
-    QTest::mousePress(w, Qt::LeftButton, {}, QPoint(50, 60));
-    QTest::mouseMove(w, QPoint(70, 80));
-    QTest::mouseRelease(w, Qt::LeftButton, {}, QPoint(70, 80));
-    QTest::mousePress(w, Qt::RightButton, {}, QPoint(300, 400));
-    QTest::mouseRelease(w, Qt::RightButton, {}, QPoint(300, 400));
-    ASSERT_EQ(pulsa.size(), 2u);
-    EXPECT_EQ(pulsa[0].boton, 1);
-    EXPECT_FLOAT_EQ(pulsa[0].x, 150.0f);
-    EXPECT_FLOAT_EQ(pulsa[0].y, 90.0f);
-    EXPECT_EQ(pulsa[1].boton, 2);
-    EXPECT_FLOAT_EQ(pulsa[1].x, 400.0f);
-    EXPECT_FLOAT_EQ(pulsa[1].y, 430.0f);
-    // The move with the left button held.
-    const auto arrastre = std::find_if(mueve.begin(), mueve.end(), [](const Llamada &m) {
-        return m.x == 170.0f && m.y == 110.0f;
-    });
-    ASSERT_NE(arrastre, mueve.end());
-    EXPECT_EQ(arrastre->boton, 1);
-    ASSERT_EQ(suelta.size(), 2u);
-    EXPECT_FLOAT_EQ(suelta[0].x, 170.0f);
-}
-
-TEST_F(VentanaTest, LosPanelesEstanSobreElAreaDeTrabajo) {
-    FormTeselari &f = teselari;
-    f.Pic_BotonesSiempre.Move(946, 0, 62, 300);
-    f.Pic_BotonesSiempre.Visible = true;
-    f.Pic_BotonSiempre[1].Move(3, 3, 56, 56);
-    f.Pic_BotonSiempre[1].Visible = true;
-    f.Pic_BSInfo.Move(3, 270);
-    ventana->Sincroniza();
-    EXPECT_EQ(ventana->childAt(947, 100), ventana->Pic_BotonesSiempre);
-    EXPECT_EQ(ventana->childAt(960, 20), ventana->Pic_BotonSiempre[1]);
-    EXPECT_EQ(ventana->childAt(100, 100), ventana->Pic_Trabajo);
-    EXPECT_EQ(ventana->childAt(500, 760), ventana->BarraHor);
-    EXPECT_EQ(ventana->Pic_BotonSiempre[1]->geometry(), QRect(3, 3, 56, 56));
-    // A button's pointer and tooltip follow the state.
-    f.Pic_BotonSiempre[1].MousePointer = 12;
-    f.Pic_BotonSiempre[1].ToolTipText = "Ayuda de la aplicación";
-    ventana->Sincroniza();
-    EXPECT_EQ(ventana->Pic_BotonSiempre[1]->cursor().shape(), Qt::ForbiddenCursor);
-    EXPECT_EQ(ventana->Pic_BotonSiempre[1]->toolTip(), QStringLiteral("Ayuda de la aplicación"));
 }
 
 TEST_F(VentanaTest, ElRelojDeArenaCubreLaPantalla) {

@@ -1,6 +1,7 @@
 // VistaSuperficie: the widget shows the surface's own pixels, repaints at
 // once what a drawing operation touched, and turns mouse events into the
-// game's button numbers and surface coordinates.
+// game's button numbers (1 left, 2 right, 4 middle), key flags (1 shift, 2
+// control, 4 alt) and surface coordinates.
 #include <QEvent>
 #include <QImage>
 #include <QTest>
@@ -127,31 +128,24 @@ TEST(VistaSuperficie, ElRatonLlegaConBotonesYCoordenadasDeLaSuperficie) {
     QTest::mouseRelease(&vista, Qt::LeftButton, Qt::NoModifier, QPoint(51, 61));
     QTest::mousePress(&vista, Qt::RightButton, Qt::ControlModifier, QPoint(100, 101));
     QTest::mouseRelease(&vista, Qt::RightButton, Qt::NoModifier, QPoint(100, 101));
+    QTest::mousePress(&vista, Qt::MiddleButton, Qt::AltModifier | Qt::ShiftModifier, QPoint(3, 4));
+    QTest::mouseRelease(&vista, Qt::MiddleButton, Qt::NoModifier, QPoint(3, 4));
 
-    ASSERT_EQ(pulsa.size(), 2u);
+    ASSERT_EQ(pulsa.size(), 3u);
     EXPECT_EQ(pulsa[0].boton, 1);
     EXPECT_EQ(pulsa[0].shift, 1);
     EXPECT_FLOAT_EQ(pulsa[0].x, 12.0f);
     EXPECT_FLOAT_EQ(pulsa[0].y, 34.0f);
     EXPECT_EQ(pulsa[1].boton, 2);
     EXPECT_EQ(pulsa[1].shift, 2);
+    EXPECT_EQ(pulsa[2].boton, 4);
+    EXPECT_EQ(pulsa[2].shift, 5);
     ASSERT_FALSE(mueve.empty());
     EXPECT_EQ(mueve.back().boton, 1); // the left button is held
     EXPECT_FLOAT_EQ(mueve.back().x, 50.0f);
     EXPECT_FLOAT_EQ(mueve.back().y, 60.0f);
-    ASSERT_EQ(suelta.size(), 2u);
+    ASSERT_EQ(suelta.size(), 3u);
     EXPECT_EQ(suelta[0].boton, 1);
     EXPECT_FLOAT_EQ(suelta[0].x, 51.0f);
     EXPECT_EQ(suelta[1].boton, 2);
-}
-
-TEST(VistaSuperficie, NumerosDeBotonesYTeclas) {
-    EXPECT_EQ(BotonDeRaton(Qt::LeftButton), 1);
-    EXPECT_EQ(BotonDeRaton(Qt::RightButton), 2);
-    EXPECT_EQ(BotonDeRaton(Qt::MiddleButton), 4);
-    EXPECT_EQ(BotonDeRaton(Qt::BackButton), 0);
-    EXPECT_EQ(BotonesDeRaton(Qt::LeftButton | Qt::RightButton), 3);
-    EXPECT_EQ(BotonesDeRaton(Qt::NoButton), 0);
-    EXPECT_EQ(TeclasDeRaton(Qt::ShiftModifier | Qt::AltModifier), 5);
-    EXPECT_EQ(TeclasDeRaton(Qt::ControlModifier), 2);
 }

@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QImage>
 #include <QTemporaryDir>
 #include <sstream>
@@ -15,20 +14,13 @@
 #include "ComparaImagenes.h"
 #include "IconoJuego.h"
 
+// The text is drawn from the font files, which wants an application (the
+// one of generador_test.cpp, in the same executable).
+void AseguraAplicacion();
+
 namespace {
 
 const QString Carpeta = QStringLiteral(TESELARI_CARPETA_ACTIVOS);
-
-// The text is drawn from the font files, which wants an application.
-void AseguraAplicacion() {
-    static int argc = 1;
-    static char nombre[] = "teselari_activos_tests";
-    static char *argv[] = {nombre, nullptr};
-    if (QGuiApplication::instance() == nullptr) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static QGuiApplication app(argc, argv);
-    }
-}
 
 struct Banda {
     const char *fichero;
@@ -91,10 +83,7 @@ TEST(ArteCareta, UnaPasadaDevuelveLosFicherosGuardados) {
     }
     QFile nuevo(tmp.path() + "/iconos/teselari.svg"), guardado(Carpeta + "/iconos/teselari.svg");
     ASSERT_TRUE(nuevo.open(QIODevice::ReadOnly) && guardado.open(QIODevice::ReadOnly));
-    const QByteArray svg = nuevo.readAll();
-    EXPECT_EQ(svg, guardado.readAll());
-    EXPECT_TRUE(svg.contains("viewBox=\"0 0 64 64\""));
-    EXPECT_EQ(svg.count("<path "), 5);
+    EXPECT_EQ(nuevo.readAll(), guardado.readAll());
 }
 
 } // namespace
