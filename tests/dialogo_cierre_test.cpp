@@ -245,20 +245,27 @@ TEST_F(Dialogo, LaPaginaDeBotonesVuelveAMostrarLoElegido) {
     EXPECT_EQ(f->Lab_Botones[11].Caption, "Salir de la aplicación");
 }
 
-// One press after the key gives a control's topic instead of acting; the
+// One press after the key gives the control's topic instead of acting; the
 // next press acts again.
 TEST_F(Dialogo, QueEsDaElTemaDelControlEnVezDeActuar) {
     Abre();
-    EXPECT_FALSE(f->AtiendeQueEs(TemasAyuda::NumeroPiezas));
-    f->Bot_QueEs_Click();
-    EXPECT_NE(f->MousePointer, PUNTERO_NORMAL);
-    EXPECT_TRUE(f->AtiendeQueEs(TemasAyuda::NumeroPiezas));
-    EXPECT_EQ(dialogo_prueba::temasAyuda, std::vector<int16_t>{TemasAyuda::NumeroPiezas});
-    EXPECT_EQ(f->MousePointer, PUNTERO_NORMAL);
-    EXPECT_FALSE(f->AtiendeQueEs(TemasAyuda::NumeroPiezas));
+    EXPECT_FALSE(f->AtiendeQueEs(f->Lis_NroPiezas.WhatsThisHelpID));
+    const std::pair<int16_t, int16_t> casos[] = {
+        {f->File1.WhatsThisHelpID, 1231},         {f->Bot_Portapapeles.WhatsThisHelpID, 1232},
+        {f->Pic_PorcZoom.WhatsThisHelpID, 1233},  {f->Lis_NroPiezas.WhatsThisHelpID, 1234},
+        {f->Pic_TipPuz[3].WhatsThisHelpID, 1235}, {f->Pic_ColFon[0].WhatsThisHelpID, 1236},
+        {f->Bot_Prueba.WhatsThisHelpID, 1237},    {f->Pic_PorcVelocidad.WhatsThisHelpID, 1238},
+        {f->Pic_Pistas.WhatsThisHelpID, 1241},    {f->Opt_Siempre[2].WhatsThisHelpID, 1242},
+    };
+    for (const auto &[tema, esperado] : casos) {
+        f->Bot_QueEs_Click();
+        EXPECT_NE(f->MousePointer, PUNTERO_NORMAL);
+        EXPECT_TRUE(f->AtiendeQueEs(tema));
+        EXPECT_EQ(dialogo_prueba::temasAyuda.back(), esperado);
+        EXPECT_EQ(f->MousePointer, PUNTERO_NORMAL);
+        EXPECT_FALSE(f->AtiendeQueEs(tema)); // one click only
+    }
 }
-
-// --- command 2 around the dialog ---
 
 // Either way out after a change of speed alone leaves the deal; a new grid
 // deals again, last, so that the game is valid and the clock at 0.

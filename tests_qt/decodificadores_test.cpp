@@ -364,8 +364,8 @@ TEST(GuardaBmp, FilasDeCualquierAnchoVuelvenIguales) {
     QTemporaryDir carpeta;
     const std::string ruta = carpeta.filePath(QStringLiteral("g.bmp")).toStdString();
     for (int32_t w : {1, 2, 3, 4, 5, 17}) {
-        Superficie s(w, 3, RGB(10, 20, 30)), leida;
-        s.PSet(w - 1, 2, RGB(200, 100, 50));
+        Superficie s(w, 3, RGB(11, 21, 31)), leida;
+        s.PSet(w - 1, 2, RGB(201, 101, 51));
         ASSERT_TRUE(GuardaBmp(s, ruta));
         ASSERT_TRUE(CargaImagenQt(ruta, leida).Leida()) << w;
         EXPECT_EQ(leida.Pixeles(), s.Pixeles()) << w;
