@@ -79,7 +79,7 @@ class AceptarYRechazar : public Dialogo, public ::testing::WithParamInterface<Ca
   protected:
     void SetUp() override {
         Dialogo::SetUp();
-        EscribeBmp("b.bmp", 800, 600);
+        PonImagen("b.bmp", 800, 600);
         Velocidad = 90;
         Cronometro = 1;
         PartidaValida = VERDADERO;
@@ -131,8 +131,8 @@ INSTANTIATE_TEST_SUITE_P(Cambios, AceptarYRechazar, ::testing::ValuesIn(cambios)
                          });
 
 TEST_F(Dialogo, RechazarTrasUnaImagenNoValidaInsisteHastaUnaValida) {
-    EscribeBmp("mini.bmp", 20, 20);
-    EscribeBmp("b.bmp", 800, 600);
+    PonImagen("mini.bmp", 20, 20);
+    PonImagen("b.bmp", 800, 600);
     const std::string fichero = FicheroImagen;
     Abre();
     Elige("mini.bmp");
@@ -154,29 +154,8 @@ TEST_F(Dialogo, RechazarTrasUnaImagenNoValidaInsisteHastaUnaValida) {
     EXPECT_EQ(CarpetaImagen, fotos);
 }
 
-TEST_F(Dialogo, SinImagenUtilizableNoSePuedeSalir) {
-    const std::string vacia = raiz + "/vacia";
-    std::filesystem::create_directories(vacia);
-    ImagenValida = FALSO;
-    CarpetaImagen = vacia;
-    Abre();
-    for (int i = 0; i < 3; ++i) {
-        f->Pic_Si_MouseDown(1, 0, 5, 5);
-        f->Pic_No_MouseDown(1, 0, 5, 5);
-    }
-    EXPECT_FALSE(f->Descargado());
-    EXPECT_TRUE(mensajes.empty());
-    // A usable picture: Reject still has no game to go back to; Accept does.
-    f->Dir1.PonPath(fotos);
-    Elige("a.bmp");
-    f->Pic_No_MouseDown(1, 0, 5, 5);
-    EXPECT_FALSE(f->Descargado());
-    f->Pic_Si_MouseDown(1, 0, 5, 5);
-    EXPECT_TRUE(f->Descargado());
-}
-
 TEST_F(Dialogo, AbrirDondeNoEstaLaImagenTomaLaPrimeraComoUnClick) {
-    EscribeBmp("0.bmp", 640, 480);
+    PonImagen("0.bmp", 640, 480);
     NombreImagen = "otra.bmp";
     Abre();
     EXPECT_EQ(NombreImagen, "0.bmp");
@@ -186,47 +165,65 @@ TEST_F(Dialogo, AbrirDondeNoEstaLaImagenTomaLaPrimeraComoUnClick) {
     EXPECT_EQ(PuzzleCambiado, VERDADERO);
 }
 
-TEST_F(Dialogo, AbrirEnCarpetaVaciaNoEvaluaNada) {
+// An empty folder evaluates nothing and the zoom has no file to act on;
+// Accept keeps the game's picture, and without a usable one neither way
+// out leads anywhere until a picture is chosen. Reject still has no game
+// to go back to then; Accept does.
+TEST_F(Dialogo, EnCarpetaVaciaNadaSeEvaluaNiSeSaleSinImagen) {
     const std::string vacia = raiz + "/vacia";
     std::filesystem::create_directories(vacia);
     CarpetaImagen = vacia;
+    const uint64_t origen = Huella(teselari.Pic_Origin);
     Abre();
     EXPECT_EQ(f->File1.ListCount(), 0);
     EXPECT_EQ(f->Pic_Comprobar.Ancho(), 0);
     EXPECT_EQ(f->Pic_Modelo.Point(10, 10), COLOR_BLANCO);
     EXPECT_TRUE(f->Pic_TipPuz[1].Enabled && f->Pic_TipPuz[5].Enabled);
+    f->Pic_Zoom_MouseDown(1, 0, SUBE_X, SUBE_Y);
+    EXPECT_EQ(Zoom, 100);
+    EXPECT_EQ(Huella(teselari.Pic_Origin), origen);
     f->Pic_Si_MouseDown(1, 0, 5, 5);
     EXPECT_TRUE(f->Descargado());
     EXPECT_EQ(PuzzleCambiado, FALSO);
     EXPECT_EQ(FicheroImagen, fotos + "/a.bmp");
-}
 
-TEST_F(Dialogo, UnaCarpetaQueYaNoExisteLlevaALaDeTrabajo) {
-    EscribeBmp("../programa/t.bmp", 640, 480);
-    CarpetaImagen = raiz + "/borrada";
-    NombreImagen = "t.bmp";
+    ImagenValida = FALSO;
     Abre();
-    EXPECT_EQ(f->Dir1.Path(), programa);
-    EXPECT_EQ(f->File1.Text(), "t.bmp");
-    // Found again: quietly, with the stored names.
+    for (int i = 0; i < 3; ++i) {
+        f->Pic_Si_MouseDown(1, 0, 5, 5);
+        f->Pic_No_MouseDown(1, 0, 5, 5);
+    }
+    EXPECT_FALSE(f->Descargado());
     EXPECT_TRUE(mensajes.empty());
-    EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 12), 1); // the folder's change
+    f->Dir1.PonPath(fotos);
+    Elige("a.bmp");
+    f->Pic_No_MouseDown(1, 0, 5, 5);
+    EXPECT_FALSE(f->Descargado());
+    f->Pic_Si_MouseDown(1, 0, 5, 5);
+    EXPECT_TRUE(f->Descargado());
 }
 
-// A drive that is not there (a file written on Windows, a volume since
-// unplugged) is not offered: the dialog opens on the working folder's
-// volume, and a picture taken there names that one.
-TEST_F(Dialogo, UnaUnidadQueNoEstaNoSeOfrece) {
-    for (const char *unidad : {"C:", "/media/teselari-desenchufada"}) {
-        EscribeBmp("../programa/t.bmp", 640, 480);
+// A folder since deleted, or on a drive that is not there (a file written
+// on Windows, a volume since unplugged), leads to the working folder,
+// quietly and with the stored names; such a drive is not offered, and a
+// picture taken there names the working folder's volume.
+TEST_F(Dialogo, UnaCarpetaOUnidadQueNoEstaLlevaALaDeTrabajo) {
+    PonImagen("../programa/t.bmp", 640, 480);
+    for (const std::string unidad : {"/", "C:", "/media/teselari-desenchufada"}) {
         UnidadImagen = unidad;
-        CarpetaImagen = std::string(unidad) + "/fotos";
-        NombreImagen = "a.bmp"; // not there: the first file is taken, as if clicked
+        CarpetaImagen = (unidad == "/" ? raiz : unidad) + "/borrada";
+        NombreImagen = "t.bmp";
         Abre();
+        EXPECT_EQ(f->Dir1.Path(), programa) << unidad;
+        EXPECT_EQ(f->File1.Text(), "t.bmp") << unidad;
+        EXPECT_TRUE(mensajes.empty()) << unidad;
+        if (unidad == "/") { // the folder's change is heard
+            EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 12), 1);
+        }
         const auto &lista = f->Drive1.Elementos();
-        EXPECT_EQ(std::count(lista.begin(), lista.end(), unidad), 0) << unidad;
+        EXPECT_TRUE(unidad == "/" || std::count(lista.begin(), lista.end(), unidad) == 0);
         EXPECT_EQ(f->Drive1.Drive(), UnidadDeCarpeta(DirectorioTrabajo)) << unidad;
-        EXPECT_EQ(f->Dir1.Path(), programa);
+        f->File1.Pulsa(f->File1.ListIndex());
         EXPECT_EQ(UnidadImagen, UnidadDeCarpeta(DirectorioTrabajo)) << unidad;
     }
 }
@@ -248,6 +245,8 @@ TEST_F(Dialogo, LaPaginaDeBotonesVuelveAMostrarLoElegido) {
     EXPECT_EQ(f->Lab_Botones[11].Caption, "Salir de la aplicación");
 }
 
+// One press after the key gives the control's topic instead of acting; the
+// next press acts again.
 TEST_F(Dialogo, QueEsDaElTemaDelControlEnVezDeActuar) {
     Abre();
     EXPECT_FALSE(f->AtiendeQueEs(f->Lis_NroPiezas.WhatsThisHelpID));
@@ -268,30 +267,12 @@ TEST_F(Dialogo, QueEsDaElTemaDelControlEnVezDeActuar) {
     }
 }
 
-// --- command 2 around the dialog ---
-
-TEST_F(Dialogo, ElComandoDosReparteSiCambiaElPuzzle) {
+// Either way out after a change of speed alone leaves the deal; a new grid
+// deals again, last, so that the game is valid and the clock at 0.
+TEST_F(Dialogo, ElComandoDosSoloReparteSiCambiaElPuzzle) {
     PreparaBitmap();
     PartidaValida = VERDADERO;
     SegundosCronometro = 50;
-    dialogo_prueba::alMostrar = [](FormAbrirFic &d) {
-        d.Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y);
-        d.Lis_NroPiezas.PonListIndex(0);
-        d.Pic_Si_MouseDown(1, 0, 5, 5);
-    };
-    PulsaBoton(2);
-    EXPECT_EQ(PiezasPorLado, 5);
-    EXPECT_EQ(NroPiezas, 25);
-    EXPECT_EQ(Piezas.size(), 26u);
-    EXPECT_EQ(PartidaValida, VERDADERO); // the deal runs last
-    EXPECT_EQ(SegundosCronometro, 0);
-    EXPECT_EQ(BotonPulsado[2], FALSO);
-    EXPECT_EQ(teselari.MousePointer, PUNTERO_NORMAL);
-    EXPECT_TRUE(sesion_prueba::PartidaCoherente());
-}
-
-TEST_F(Dialogo, ElComandoDosSinCambiosNoReparte) {
-    PreparaBitmap();
     const std::vector<Pieza> piezas = Piezas;
     for (auto cierra : {&FormAbrirFic::Pic_Si_MouseDown, &FormAbrirFic::Pic_No_MouseDown}) {
         static void (FormAbrirFic::*salida)(int16_t, int16_t, float, float);
@@ -305,6 +286,19 @@ TEST_F(Dialogo, ElComandoDosSinCambiosNoReparte) {
         EXPECT_EQ(PuzzleCambiado, FALSO);
     }
     EXPECT_EQ(Velocidad, 95); // kept by Accept, then left alone by Reject
+    dialogo_prueba::alMostrar = [](FormAbrirFic &d) {
+        d.Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y);
+        d.Lis_NroPiezas.PonListIndex(0);
+        d.Pic_Si_MouseDown(1, 0, 5, 5);
+    };
+    PulsaBoton(2);
+    EXPECT_EQ(NroPiezas, 25);
+    EXPECT_EQ(Piezas.size(), 26u);
+    EXPECT_EQ(PartidaValida, VERDADERO);
+    EXPECT_EQ(SegundosCronometro, 0);
+    EXPECT_EQ(BotonPulsado[2], FALSO);
+    EXPECT_EQ(teselari.MousePointer, PUNTERO_NORMAL);
+    EXPECT_TRUE(sesion_prueba::PartidaCoherente());
 }
 
 TEST_F(Dialogo, ElPrimerArranqueReparteUnaVezLaImagenElegida) {

@@ -1,17 +1,16 @@
-// Shared set-up of the customisation dialog's tests: a folder of real BMP
-// files written by the game's own writer, a loader that reads them back, a
-// text service that records what is printed, and the dialog's hooks.
+// Shared set-up of the customisation dialog's tests: a folder of pictures
+// of the session tests' kind, a loader that also takes the bitmap the
+// dialog writes itself, a text service that records what is printed, and
+// the dialog's hooks.
 #pragma once
 
-#include <filesystem>
-
 #include <cstring>
+#include <filesystem>
 #include <functional>
 #include <memory>
 
 #include "core/Rejilla.h"
 #include "dialog/FormAbrirFic.h"
-#include "dialog/GuardaBmp.h"
 #include "dialog/ServiciosDialogo.h"
 #include "plataforma_prueba.h"
 #include "services/Ayuda.h"
@@ -20,40 +19,18 @@
 
 namespace dialogo_prueba {
 
-// Reads back the uncompressed 24-bit files GuardaBmp writes; anything else,
-// and a file shorter than its header says, is blank as the platform's
-// loader leaves it; a missing file is missing.
-inline CargaDeImagen LeeBmp(const std::string &fichero, Superficie &destino) {
-    if (!std::filesystem::is_regular_file(fichero)) {
-        DejaImagenEnBlanco(destino);
-        return {EstadoCarga::Inexistente, 320, 240};
-    }
-    const CargaDeImagen blanca{EstadoCarga::EnBlanco, 320, 240};
+// The session tests' loader, and the clipboard's picture that GuardaBmp
+// wrote, at the size its header states, painted as the clipboard's double
+// paints it.
+inline CargaDeImagen CargaDePrueba(const std::string &fichero, Superficie &destino) {
     const std::string d = sesion_prueba::LeeFichero(fichero);
-    auto le32 = [&d](size_t i) {
-        uint32_t v = 0;
-        std::memcpy(&v, d.data() + i, 4);
-        return v;
-    };
-    if (d.size() < 54 || d[0] != 'B' || d[1] != 'M' || d[28] != 24) {
-        DejaImagenEnBlanco(destino);
-        return blanca;
+    if (d.size() < 54 || !d.starts_with("BM")) {
+        return sesion_prueba::CargadorDePrueba(fichero, destino);
     }
-    const int32_t w = static_cast<int32_t>(le32(18)), h = static_cast<int32_t>(le32(22));
-    const size_t fila = (static_cast<size_t>(w) * 3 + 3) & ~size_t{3};
-    if (w <= 0 || h <= 0 || d.size() < le32(10) + fila * h) {
-        DejaImagenEnBlanco(destino);
-        return blanca;
-    }
-    destino.CambiaTamano(w, h);
-    for (int32_t y = 0; y < h; ++y) {
-        const auto *p = reinterpret_cast<const uint8_t *>(d.data() + le32(10) + fila * (h - 1 - y));
-        for (int32_t x = 0; x < w; ++x, p += 3) {
-            destino.Fila(y)[x] =
-                0xFF000000u | (uint32_t{p[2]} << 16) | (uint32_t{p[1]} << 8) | p[0];
-        }
-    }
-    return {EstadoCarga::Leida, w, h};
+    int32_t lados[2];
+    std::memcpy(lados, d.data() + 18, sizeof lados);
+    PintaImagenGenerada(destino, lados[0], lados[1]);
+    return {EstadoCarga::Leida, lados[0], lados[1]};
 }
 
 // Every text printed, with the surface it went to.
@@ -101,7 +78,7 @@ class Dialogo : public Sesion {
     void SetUp() override {
         using namespace dialogo_prueba;
         Sesion::SetUp();
-        PonServicio(&ServiciosPlataforma::CargaImagen, LeeBmp);
+        PonServicio(&ServiciosPlataforma::CargaImagen, CargaDePrueba);
         PonServicio(&ServiciosPlataforma::Texto, &rotulador);
         PonServicio(&ServiciosPlataforma::Dialogo, {MuestraModalDePrueba, CargaTiraDePrueba});
         PonServicio(&ServiciosPlataforma::MuestraAyuda, AyudaDePrueba);
@@ -109,7 +86,7 @@ class Dialogo : public Sesion {
         temasAyuda.clear();
         fotos = raiz + "/fotos";
         std::filesystem::create_directories(fotos);
-        EscribeBmp("a.bmp", 640, 480);
+        PonImagen("a.bmp", 640, 480);
         using namespace PuzzGbl;
         Velocidad = 100;
         Sonido = 1;
@@ -133,11 +110,9 @@ class Dialogo : public Sesion {
         Sesion::TearDown();
     }
 
-    // A picture of w x h, of generated colours, in the folder "fotos".
-    void EscribeBmp(const std::string &nombre, int32_t w, int32_t h) {
-        Superficie s;
-        PintaImagenGenerada(s, w, h);
-        ASSERT_TRUE(GuardaBmp(s, fotos + "/" + nombre));
+    // A picture of w x h in the folder "fotos".
+    void PonImagen(const std::string &nombre, int32_t w, int32_t h) {
+        sesion_prueba::EscribeImagen(fotos + "/" + nombre, w, h);
     }
 
     // The dialog as it opens.

