@@ -88,13 +88,7 @@ puzzle_resuelto() {
     arranca_juego
     espera_ventana
     sleep 1
-    xdotool mousemove "$x" "$y" mousedown 1
-    local paso
-    for paso in 1 2 3 4 5 6 7 8; do
-        xdotool mousemove $((x + (xc - x) * paso / 8)) $((y + (yc - y) * paso / 8))
-        sleep 0.05
-    done
-    xdotool mouseup 1
+    arrastra_a_casa
     sleep 1
     xdotool mousemove 500 740
     sleep 0.5
