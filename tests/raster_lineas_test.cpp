@@ -115,14 +115,11 @@ TEST(RasterLineas, CajaConEsquinasYRelleno) {
 TEST(RasterLineas, InvertirDosVecesRestaura) {
     const std::vector<std::function<void(Superficie &)>> figuras = {
         [](Superficie &s) { s.Line(2, 3, 37, 19); },
-        [](Superficie &s) { s.Line(30, 2, 4, 28); },
         [](Superficie &s) { s.Caja(3, 4, 30, 25); },
-        [](Superficie &s) { s.Caja(7, 7, 7, 20); },
         [](Superficie &s) { s.CajaLlena(-2, 5, 12, 9, COLOR_NEGRO); },
         [](Superficie &s) { s.PSet(5, 5); },
         [](Superficie &s) { s.Circle(20, 15, 11); },
         [](Superficie &s) { s.Circle(20.4, 15.7, 30, 0.35); },
-        [](Superficie &s) { s.Circle(20, 15, 0.7, 2.85); },
         [](Superficie &s) { s.CircleArco(20, 15, 12, 5.2, 1.1); },
         [](Superficie &s) { s.CircleArco(20, 15, 12, 1.570796, 4.712389, 0.5); }};
     std::mt19937 azar(5);

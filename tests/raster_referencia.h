@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <deque>
 #include <random>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -149,3 +150,23 @@ std::vector<bool> Area(const Superficie &s, int32_t x, int32_t y, Dentro dentro)
 }
 
 } // namespace referencia
+
+// A text service that draws nothing and remembers what it was asked.
+class RotuladorRegistro : public Rotulador {
+  public:
+    struct Texto {
+        double x, y;
+        Color color;
+        bool negrita;
+        std::string texto;
+    };
+    std::vector<Texto> textos;
+    double Ancho(const Fuente &, const std::string &t) override {
+        return 6.0 * static_cast<double>(t.size());
+    }
+    double Alto(const Fuente &, const std::string &) override { return 13.0; }
+    void Dibuja(Superficie &, const Fuente &f, double x, double y, Color c,
+                const std::string &t) override {
+        textos.push_back({x, y, c, f.Negrita, t});
+    }
+};
