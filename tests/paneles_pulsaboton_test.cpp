@@ -129,7 +129,6 @@ TEST_F(Pulsa, ElSeisDosVecesDevuelveLosColoresPropios) {
     PulsaBoton(6);
     EXPECT_EQ(ModoColocadas, VERDADERO);
     EXPECT_FALSE(MismosPixeles(teselari.Pic_Imagen, antes));
-    EXPECT_TRUE(BotonArriba(6));
     PulsaBoton(6);
     EXPECT_EQ(ModoColocadas, FALSO);
     EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, antes));
