@@ -118,11 +118,8 @@ TEST(RasterBloques, EstiraPorElPixelMasCercano) {
     const Superficie o = referencia::Aleatoria(6, 4, azar);
     Superficie mitad(3, 2);
     StretchBlt(mitad, 0, 0, 3, 2, o, 0, 0, 6, 4, SRCCOPY);
-    for (int32_t y = 0; y < 2; ++y) {
-        for (int32_t x = 0; x < 3; ++x) {
-            EXPECT_EQ(mitad.Fila(y)[x], o.Fila(2 * y + 1)[2 * x + 1]);
-        }
-    }
+    referencia::EsperaPixeles(mitad,
+                              [&](int32_t x, int32_t y) { return o.Point(2 * x + 1, 2 * y + 1); });
 }
 
 } // namespace

@@ -90,16 +90,11 @@ TEST(RasterLineas, CajaConEsquinasYRelleno) {
                        r = static_cast<int32_t>(std::lround(std::max(c.x1, c.x2)));
             const auto t = static_cast<int32_t>(std::lround(std::min(c.y1, c.y2))),
                        b = static_cast<int32_t>(std::lround(std::max(c.y1, c.y2)));
-            for (int32_t y = 0; y < 10; ++y) {
-                for (int32_t x = 0; x < 12; ++x) {
-                    const bool dentro = x >= l && x <= r && y >= t && y <= b;
-                    const bool borde = dentro && (x == l || x == r || y == t || y == b);
-                    const Color e = borde    ? 0x0000FF
-                                    : dentro ? (rellena ? 0x00FF00 : COLOR_BLANCO)
-                                             : COLOR_BLANCO;
-                    EXPECT_EQ(s.Point(x, y), e) << c.x1 << "," << c.y1 << " en " << x << "," << y;
-                }
-            }
+            referencia::EsperaPixeles(s, [&](int32_t x, int32_t y) {
+                const bool dentro = x >= l && x <= r && y >= t && y <= b;
+                const bool borde = dentro && (x == l || x == r || y == t || y == b);
+                return borde ? 0x0000FFu : dentro && rellena ? 0x00FF00u : COLOR_BLANCO;
+            });
             Superficie llena(12, 10);
             llena.CajaLlena(c.x1, c.y1, c.x2, c.y2, 0x0000FF);
             const int area =

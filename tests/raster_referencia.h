@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "raster/Raster.h"
 
 namespace referencia {
@@ -89,6 +91,15 @@ inline int StretchBltLento(Superficie &d, int32_t x, int32_t y, int32_t w, int32
         return 1;
     }
     return Copia(d, x, y, w, h, o, xs, ys, rop, fx, fy);
+}
+
+// Every pixel of s against the colour esperado(x, y).
+template <class Esperado> void EsperaPixeles(const Superficie &s, Esperado esperado) {
+    for (int32_t y = 0; y < s.Alto(); ++y) {
+        for (int32_t x = 0; x < s.Ancho(); ++x) {
+            EXPECT_EQ(s.Point(x, y), esperado(x, y)) << x << "," << y;
+        }
+    }
 }
 
 // A surface of random colours.

@@ -26,11 +26,9 @@ TEST(RasterSuperficie, CambiaTamanoConservaYRellena) {
         EXPECT_EQ(s.Top, -2);
         ASSERT_EQ(s.Ancho(), c.w);
         ASSERT_EQ(s.Alto(), c.h);
-        for (int32_t y = 0; y < c.h; ++y) {
-            for (int32_t x = 0; x < c.w; ++x) {
-                EXPECT_EQ(s.Fila(y)[x], x < 8 && y < 5 ? antes.Fila(y)[x] : APixel(0x00FF00));
-            }
-        }
+        referencia::EsperaPixeles(s, [&](int32_t x, int32_t y) {
+            return x < 8 && y < 5 ? antes.Point(x, y) : 0x00FF00u;
+        });
     }
 }
 
@@ -61,11 +59,8 @@ TEST(RasterSuperficie, FondoCopiaYQuitaImagen) {
         d.Cls(); // the picture comes back, and the background beyond it
         ASSERT_EQ(d.Ancho(), toma ? 4 : 6);
         ASSERT_EQ(d.Alto(), toma ? 7 : 4);
-        for (int32_t y = 0; y < d.Alto(); ++y) {
-            for (int32_t x = 0; x < d.Ancho(); ++x) {
-                EXPECT_EQ(d.Fila(y)[x], x < 4 ? imagen.Fila(y)[x] : APixel(0x445566));
-            }
-        }
+        referencia::EsperaPixeles(
+            d, [&](int32_t x, int32_t y) { return x < 4 ? imagen.Point(x, y) : 0x445566u; });
         d.QuitaImagen();
         d.Cls();
         EXPECT_EQ(referencia::Cuenta(d, 0x445566), d.Ancho() * d.Alto());
@@ -114,13 +109,9 @@ TEST(RasterSuperficie, CadaEscrituraRespetaElRecorte) {
             s->RellenaFiguras = true;
             kEscrituras[k].first(*s);
         }
-        for (int32_t y = 0; y < 10; ++y) {
-            for (int32_t x = 0; x < 12; ++x) {
-                EXPECT_EQ(recortada.Point(x, y),
-                          marco.Contiene(x, y) ? libre.Point(x, y) : COLOR_BLANCO)
-                    << "escritura " << k << " en " << x << "," << y;
-            }
-        }
+        referencia::EsperaPixeles(recortada, [&](int32_t x, int32_t y) {
+            return marco.Contiene(x, y) ? libre.Point(x, y) : COLOR_BLANCO;
+        });
     }
 }
 
