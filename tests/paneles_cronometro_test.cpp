@@ -118,12 +118,9 @@ TEST_P(TeclaCronometro, ActuaSoloDondeCambiaElEstado) {
     EXPECT_EQ(CursorPanelNuevo, c.cursor);
     EXPECT_EQ(CursorPanel, c.cursor);
     const CuadroImagen &panel = teselari.Pic_Cronome;
-    const char *iconos[] = {"", "MANOBLANCA", "MANOINDICE"};
-    if (c.cursor == 0) {
-        EXPECT_EQ(panel.MousePointer, PUNTERO_NORMAL);
-    } else {
-        EXPECT_EQ(panel.MousePointer, PUNTERO_PROPIO);
-        EXPECT_EQ(panel.MouseIcon, iconos[c.cursor]);
+    EXPECT_EQ(panel.MousePointer, c.cursor == 0 ? PUNTERO_NORMAL : PUNTERO_PROPIO);
+    if (c.cursor != 0) {
+        EXPECT_EQ(panel.MouseIcon, c.cursor == 1 ? "MANOBLANCA" : "MANOINDICE");
     }
     Pic_Cronome_MouseDown(1, 0, c.x, c.y);
     EXPECT_EQ(RelojEnMarcha != FALSO, c.en_marcha_tras);

@@ -78,8 +78,7 @@ std::vector<Region> RegionesDePrueba() {
     return {rect, y, hueco, vacia};
 }
 
-// The fast paths against the per-pixel reference on random cases, a fifth
-// of them a surface copied onto itself.
+// The fast paths against the per-pixel reference on random cases.
 TEST(RasterBloques, IgualQueLaReferenciaEnCasosAlAzar) {
     std::mt19937 azar(20240611);
     const uint32_t rops[] = {SRCCOPY, SRCAND, SRCINVERT, NOTSRCCOPY, DSTANDNOTSRC, 0x00EE0086};
@@ -108,6 +107,22 @@ TEST(RasterBloques, IgualQueLaReferenciaEnCasosAlAzar) {
                 referencia::StretchBltLento(esperado, x, y, w, h, fuente_ref, xs, ys, ws, hs, rop));
         }
         ASSERT_EQ(d.Pixeles(), esperado.Pixeles()) << "caso " << caso;
+    }
+}
+
+// A surface copied onto itself one pixel off, in each direction, reads the
+// source as it was.
+TEST(RasterBloques, CopiaSobreSiMismaSolapada) {
+    std::mt19937 azar(3);
+    for (int k = 0; k < 9; ++k) {
+        const int dx = k % 3 - 1, dy = k / 3 - 1;
+        const uint32_t rop = k % 2 ? SRCCOPY : SRCINVERT;
+        Superficie s = referencia::Aleatoria(9, 7, azar);
+        const Superficie antes = s;
+        Superficie esperado = s;
+        BitBlt(s, dx, dy, 9, 7, s, 0, 0, rop);
+        referencia::BitBltLento(esperado, dx, dy, 9, 7, antes, 0, 0, rop);
+        EXPECT_EQ(s.Pixeles(), esperado.Pixeles()) << dx << "," << dy;
     }
 }
 
