@@ -1,12 +1,16 @@
 // The commands on the board and the model, and those that leave the board,
-// each run on its own: the model, a new deal, the hidden pieces, the tutor.
-#include <algorithm>
+// each run on its own: the model, the hidden pieces, the tutor, the help.
+// The deal is the board's; that each command leaves its button up is the
+// dispatcher's table.
+#include <array>
 
 #include "board/Render.h"
 #include "core/Cronometro.h"
 #include "cutting/Corte.h"
 #include "paneles_comun.h"
+#include "panels/Comandos.h"
 #include "panels/Ordenes.h"
+#include "plataforma_prueba.h"
 #include "raster/Raster.h"
 
 using namespace PuzzGbl;
@@ -19,18 +23,12 @@ class Comandos : public Motor {
         PreparaJuego(4, 0, 400, 300);
         PintaTiraPrueba(teselari.Pic_BmpBoton);
         PreparaBitmap();
-        IgualaTrabajo();
     }
     // The board on the screen as its twin holds it.
     static void IgualaTrabajo() {
         FormTeselari &f = teselari;
         BitBlt(f.Pic_Trabajo, 0, 0, f.Pic_Imagen.Ancho(), f.Pic_Imagen.Alto(), f.Pic_Imagen, 0, 0,
                SRCCOPY);
-    }
-    static void EsperaBotonArriba(int16_t b) {
-        EXPECT_EQ(BotonPulsado[b], FALSO);
-        EXPECT_EQ(teselari.Pic_BotonSiempre[b].Point(3, 3), CuerpoPrueba(b));
-        EXPECT_EQ(teselari.MousePointer, 0);
     }
 };
 
@@ -40,42 +38,15 @@ TEST_F(Comandos, ElModeloAparecePorAbajoYDesaparece) {
     f.BarraVer.PonMax(100);
     f.BarraVer.PonValue(40);
     ModeloVisible = false;
-    m.Move(7, 9);
-    MuestraOcultaModelo();
-    EXPECT_TRUE(ModeloVisible);
-    EXPECT_TRUE(m.Visible);
-    EXPECT_EQ(m.Left, (1024 - m.Ancho()) / 2);
-    EXPECT_EQ(m.Top, f.BarraHor.Top - m.Alto() + 40);
-    EsperaBotonArriba(3);
-    // Hidden where the player left it; shown again, back at the foot.
-    m.Move(7, 9);
-    MuestraOcultaModelo();
-    EXPECT_FALSE(ModeloVisible);
-    EXPECT_FALSE(m.Visible);
-    EXPECT_EQ(m.Left, 7);
-    MuestraOcultaModelo();
-    EXPECT_EQ(m.Left, (1024 - m.Ancho()) / 2);
-    EXPECT_EQ(m.Top, f.BarraHor.Top - m.Alto() + 40);
-    EsperaBotonArriba(3);
-}
-
-TEST_F(Comandos, BarajarReparteDeNuevo) {
-    const std::vector<Pieza> antes = Piezas;
-    SegundosCronometro = 777;
-    PartidaValida = FALSO;
-    ParaCronometro();
-    BotonPulsado[4] = VERDADERO;
-    BarajaDeNuevo();
-    EXPECT_EQ(SegundosCronometro, 0);
-    EXPECT_EQ(PartidaValida, VERDADERO);
-    EXPECT_EQ(RelojEnMarcha, VERDADERO);
-    EXPECT_NE(Piezas, antes);
-    std::vector<int16_t> orden(OrdenPiezas.begin() + 1, OrdenPiezas.end());
-    std::sort(orden.begin(), orden.end());
-    for (size_t i = 0; i < orden.size(); ++i) {
-        EXPECT_EQ(orden[i], static_cast<int16_t>(i + 1));
+    // Shown at the foot of the view, centred; hidden where the player left it.
+    for (const bool visible : {true, false, true}) {
+        m.Move(7, 9);
+        MuestraOcultaModelo();
+        EXPECT_EQ(ModeloVisible, visible);
+        EXPECT_EQ(m.Visible, visible);
+        EXPECT_EQ(m.Left, visible ? (1024 - m.Ancho()) / 2 : 7);
+        EXPECT_EQ(m.Top, visible ? f.BarraHor.Top - m.Alto() + 40 : 9);
     }
-    EsperaBotonArriba(4);
 }
 
 TEST_F(Comandos, LasPiezasOcultasSubenDesdeAbajo) {
@@ -106,65 +77,66 @@ TEST_F(Comandos, LasPiezasOcultasSubenDesdeAbajo) {
     EXPECT_EQ(std::vector<int16_t>(OrdenPiezas.begin() + 1, OrdenPiezas.end()), esperado);
     // Every piece that came up was shown on the screen as on the board.
     EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen));
-    EsperaBotonArriba(5);
 }
 
-TEST_F(Comandos, ConTodasColocadasNadaCambiaDeSitio) {
-    for (int16_t k = 1; k <= NroPiezas; ++k) {
-        Piezas[k].X = Piezas[k].XCorrecta;
-        Piezas[k].Y = Piezas[k].YCorrecta;
-    }
-    const std::vector<int16_t> orden = OrdenPiezas;
-    MuestraPiezasOcultas();
-    EXPECT_EQ(OrdenPiezas, orden);
-    EsperaBotonArriba(5);
-}
-
-// The tutor: the rectangles reported by the board while it blinks.
-struct Parpadeo {
-    std::vector<Rectangulo> rectangulos;
-    std::vector<Color> esquinas; // the pixel at the piece's corner, each time
-};
-
+// The tutor inverts the piece and its place in turn, eight times each.
 TEST_F(Comandos, ElTutorParpadeaEntreLaPiezaYSuSitio) {
     FormTeselari &f = teselari;
     const Pieza q = Piezas[OrdenPiezas[1]];
     ASSERT_FALSE(q.X == q.XCorrecta && q.Y == q.YCorrecta);
     const Superficie antes = f.Pic_Trabajo;
-    Parpadeo p;
-    f.Pic_Trabajo.AlCambiar = [&p, &q](const Rectangulo &r) {
-        p.rectangulos.push_back(r);
-        p.esquinas.push_back(teselari.Pic_Trabajo.Point(q.X, q.Y));
+    std::vector<Rectangulo> rectangulos;
+    Color esquina = 0; // the piece's corner after the first inversion
+    f.Pic_Trabajo.AlCambiar = [&](const Rectangulo &r) {
+        if (rectangulos.empty()) {
+            esquina = teselari.Pic_Trabajo.Point(q.X, q.Y);
+        }
+        rectangulos.push_back(r);
     };
     MuestraTutor();
     f.Pic_Trabajo.AlCambiar = nullptr;
     const Rectangulo pieza{q.X, q.Y, q.X + AnchoPieza + 1, q.Y + AltoPieza + 1};
     const Rectangulo sitio{q.XCorrecta, q.YCorrecta, q.XCorrecta + AnchoPieza + 1,
                            q.YCorrecta + AltoPieza + 1};
-    ASSERT_EQ(p.rectangulos.size(), 16u);
+    ASSERT_EQ(rectangulos.size(), 16u);
     for (size_t i = 0; i < 16; i += 2) {
-        EXPECT_EQ(p.rectangulos[i], Interseccion(pieza, f.Pic_Trabajo.Limites()));
-        EXPECT_EQ(p.rectangulos[i + 1], Interseccion(sitio, f.Pic_Trabajo.Limites()));
+        EXPECT_EQ(rectangulos[i], Interseccion(pieza, f.Pic_Trabajo.Limites()));
+        EXPECT_EQ(rectangulos[i + 1], Interseccion(sitio, f.Pic_Trabajo.Limites()));
     }
-    // After the first inversion the corner shows inverted.
-    EXPECT_EQ(p.esquinas[0], antes.Point(q.X, q.Y) ^ 0xFFFFFF);
+    EXPECT_EQ(esquina, antes.Point(q.X, q.Y) ^ 0xFFFFFF);
     // Eight passes: both places end as they were.
     EXPECT_TRUE(MismosPixeles(f.Pic_Trabajo, antes));
     EXPECT_EQ(f.Pic_Trabajo.DrawMode, DRAWMODE_COPIA);
-    EsperaBotonArriba(8);
 }
 
-TEST_F(Comandos, ConLaPiezaDeArribaEnSuSitioElTutorNoParpadea) {
-    FormTeselari &f = teselari;
-    Pieza &q = Piezas[OrdenPiezas[1]];
-    q.X = q.XCorrecta;
-    q.Y = q.YCorrecta;
+// With every piece at its place nothing comes up and nothing blinks.
+TEST_F(Comandos, ConTodoColocadoNiSubenPiezasNiParpadeaElTutor) {
+    for (int16_t k = 1; k <= NroPiezas; ++k) {
+        Piezas[k].X = Piezas[k].XCorrecta;
+        Piezas[k].Y = Piezas[k].YCorrecta;
+    }
+    const std::vector<int16_t> orden = OrdenPiezas;
+    MuestraPiezasOcultas();
     int cambios = 0;
-    f.Pic_Trabajo.AlCambiar = [&cambios](const Rectangulo &) { ++cambios; };
+    teselari.Pic_Trabajo.AlCambiar = [&cambios](const Rectangulo &) { ++cambios; };
     MuestraTutor();
-    f.Pic_Trabajo.AlCambiar = nullptr;
+    teselari.Pic_Trabajo.AlCambiar = nullptr;
+    EXPECT_EQ(OrdenPiezas, orden);
     EXPECT_EQ(cambios, 0);
-    EsperaBotonArriba(8);
+}
+
+// The help opens on its contents, with its button down and the clock
+// stopped while it opens.
+TEST_F(Comandos, LaAyudaAbreElContenidoConElRelojParado) {
+    static std::vector<std::array<int16_t, 3>> vistas; // topic, button 1, clock
+    vistas.clear();
+    PonServicio(&ServiciosPlataforma::MuestraAyuda, [](int16_t tema) {
+        vistas.push_back({tema, BotonPulsado[1], RelojEnMarcha});
+    });
+    ArrancaCronometro();
+    PulsaBoton(1);
+    PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
+    EXPECT_EQ(vistas, (std::vector<std::array<int16_t, 3>>{{0, VERDADERO, FALSO}}));
 }
 
 class FueraDelTablero : public Comandos, public ::testing::WithParamInterface<int> {};
@@ -187,7 +159,6 @@ TEST_P(FueraDelTablero, ElRelojVuelveAAndar) {
         EXPECT_EQ(SegundosCronometro, 1234);
         // Both keys were drawn twice: stopped, then running.
         EXPECT_EQ(pasos_cronome, 12);
-        EsperaBotonArriba(b);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "motor_comun.h"
 #include "panels/SemillasBotones.h"
 #include "raster/Colores.h"
+#include "raster_referencia.h"
 
 constexpr Color SOMBRA_PRUEBA = RGB(0, 0, 0x80);
 constexpr Color GRIS_PANEL = 0xC0C0C0;
@@ -43,15 +44,6 @@ inline void PintaTiraPrueba(Superficie &tira) {
     }
 }
 
-// How many pixels of a surface have the colour.
-inline int CuentaColor(const Superficie &s, Color c) {
-    int n = 0;
-    for (uint32_t p : s.Pixeles()) {
-        n += (p & 0xFFFFFF) == (APixel(c) & 0xFFFFFF) ? 1 : 0;
-    }
-    return n;
-}
-
 // A 1024 x 768 screen with its scroll bars, a board larger than the view
 // (both bars can scroll 200 pixels), the board's twin in the same pixels,
 // and the always-visible panel of eleven buttons in one column.
@@ -73,23 +65,3 @@ inline void PreparaPantallaPaneles() {
     f.Pic_BotonesSiempre.Move(946, 0, 62, 667);
     ColorContraste = COLOR_BLANCO;
 }
-
-// A text service that draws nothing and remembers what it was asked.
-class RotuladorRegistro : public Rotulador {
-  public:
-    struct Texto {
-        double x, y;
-        Color color;
-        bool negrita;
-        std::string texto;
-    };
-    std::vector<Texto> textos;
-    double Ancho(const Fuente &, const std::string &t) override {
-        return 6.0 * static_cast<double>(t.size());
-    }
-    double Alto(const Fuente &, const std::string &) override { return 13.0; }
-    void Dibuja(Superficie &, const Fuente &f, double x, double y, Color c,
-                const std::string &t) override {
-        textos.push_back({x, y, c, f.Negrita, t});
-    }
-};

@@ -14,24 +14,11 @@ struct Verdad {
 
 // Unknown rops write nothing and return 0.
 const Verdad kVerdades[] = {
-    {SRCCOPY, 0x123456, 0xF0F0F0, 0x123456},
-    {SRCCOPY, 0x000000, 0xFFFFFF, 0x000000},
-    {SRCAND, 0x123456, 0xF0F0F0, 0x103050},
-    {SRCAND, 0xFFFFFF, 0x0F0F0F, 0x0F0F0F},
-    {SRCAND, 0x000000, 0xFFFFFF, 0x000000},
-    {SRCINVERT, 0x123456, 0xF0F0F0, 0xE2C4A6},
-    {SRCINVERT, 0xFFFFFF, 0xFFFFFF, 0x000000},
-    {SRCINVERT, 0x000000, 0x654321, 0x654321},
-    {NOTSRCCOPY, 0x123456, 0xF0F0F0, 0xEDCBA9},
-    {NOTSRCCOPY, 0xFFFFFF, 0x123456, 0x000000},
-    {NOTSRCCOPY, 0x000000, 0x000000, 0xFFFFFF},
-    {DSTANDNOTSRC, 0x123456, 0xF0F0F0, 0xE0C0A0},
-    {DSTANDNOTSRC, 0xFFFFFF, 0xABCDEF, 0x000000},
-    {DSTANDNOTSRC, 0x000000, 0xABCDEF, 0xABCDEF},
-    {0, 0x123456, 0x654321, 0x654321},
-    {0x00EE0086, 0x123456, 0x654321, 0x654321},
+    {SRCCOPY, 0x123456, 0xF0F0F0, 0x123456},      {SRCAND, 0x123456, 0xF0F0F0, 0x103050},
+    {SRCINVERT, 0x123456, 0xF0F0F0, 0xE2C4A6},    {SRCINVERT, 0xFFFFFF, 0xFFFFFF, 0x000000},
+    {NOTSRCCOPY, 0x123456, 0xF0F0F0, 0xEDCBA9},   {DSTANDNOTSRC, 0x123456, 0xF0F0F0, 0xE0C0A0},
+    {DSTANDNOTSRC, 0xFFFFFF, 0xABCDEF, 0x000000}, {0, 0x123456, 0x654321, 0x654321},
     {0xFFFFFFFF, 0x123456, 0x654321, 0x654321},
-    {0x00CC0021, 0x123456, 0x654321, 0x654321},
 };
 
 // Each rop by its truth table, through BitBlt and a 2x StretchBlt; the store
@@ -81,33 +68,14 @@ TEST(RasterBloques, RecortaBordesDeDestinoYOrigen) {
 }
 
 // The clip regions a blit meets: a rectangle, an AND, a DIFF with a hole,
-// an empty region.
+// an empty region. What each write leaves outside a region is the
+// surface's test.
 std::vector<Region> RegionesDePrueba() {
     Region rect(Rectangulo{1, 1, 6, 5}), y, hueco, vacia;
     CombineRgn(y, rect, Region(Rectangulo{3, 0, 9, 3}), RGN_AND);
     CombineRgn(hueco, Region(Rectangulo{0, 0, 8, 6}), Region(Rectangulo{2, 2, 5, 4}), RGN_DIFF);
     SetRectRgn(vacia, 4, 4, 4, 9);
     return {rect, y, hueco, vacia};
-}
-
-TEST(RasterBloques, RespetaLaRegionDeRecorte) {
-    const std::vector<Region> regiones = RegionesDePrueba();
-    const int tipos[] = {SIMPLEREGION, SIMPLEREGION, COMPLEXREGION, NULLREGION};
-    for (size_t k = 0; k < regiones.size(); ++k) {
-        Superficie d(8, 6);
-        const Superficie o(8, 6, COLOR_NEGRO);
-        EXPECT_EQ(SelectClipRgn(d, &regiones[k]), tipos[k]);
-        BitBlt(d, 0, 0, 8, 6, o, 0, 0, SRCCOPY);
-        for (int32_t y = 0; y < 6; ++y) {
-            for (int32_t x = 0; x < 8; ++x) {
-                EXPECT_EQ(d.Point(x, y), regiones[k].Contiene(x, y) ? COLOR_NEGRO : COLOR_BLANCO)
-                    << k << ": " << x << "," << y;
-            }
-        }
-        EXPECT_EQ(SelectClipRgn(d, nullptr), SIMPLEREGION);
-        BitBlt(d, 0, 0, 8, 6, o, 0, 0, SRCCOPY);
-        EXPECT_EQ(referencia::Cuenta(d, COLOR_NEGRO), 48);
-    }
 }
 
 // The fast paths against the per-pixel reference on random cases.
@@ -158,30 +126,15 @@ TEST(RasterBloques, CopiaSobreSiMismaSolapada) {
     }
 }
 
+// The worked example the reference's sampling rests on: halving takes the
+// pixel under each destination centre, the odd ones.
 TEST(RasterBloques, EstiraPorElPixelMasCercano) {
     std::mt19937 azar(11);
     const Superficie o = referencia::Aleatoria(6, 4, azar);
-    Superficie doble(12, 8), mitad(3, 2), igual(6, 4), copia(6, 4);
-    StretchBlt(doble, 0, 0, 12, 8, o, 0, 0, 6, 4, SRCCOPY);
-    for (int32_t y = 0; y < 8; ++y) {
-        for (int32_t x = 0; x < 12; ++x) {
-            EXPECT_EQ(doble.Fila(y)[x], o.Fila(y / 2)[x / 2]);
-        }
-    }
-    // Halving takes whole pixels, the one under each destination centre.
+    Superficie mitad(3, 2);
     StretchBlt(mitad, 0, 0, 3, 2, o, 0, 0, 6, 4, SRCCOPY);
-    for (int32_t y = 0; y < 2; ++y) {
-        for (int32_t x = 0; x < 3; ++x) {
-            EXPECT_EQ(mitad.Fila(y)[x], o.Fila(2 * y + 1)[2 * x + 1]);
-        }
-    }
-    StretchBlt(igual, 1, -1, 6, 4, o, 0, 0, 6, 4, SRCINVERT);
-    BitBlt(copia, 1, -1, 6, 4, o, 0, 0, SRCINVERT);
-    EXPECT_EQ(igual.Pixeles(), copia.Pixeles());
-    EXPECT_EQ(StretchBlt(igual, 0, 0, -6, 4, o, 0, 0, 6, 4, SRCCOPY), 0);
-    EXPECT_EQ(StretchBlt(igual, 0, 0, 6, 4, o, 6, 0, -6, 4, SRCCOPY), 0);
-    EXPECT_EQ(igual.Pixeles(), copia.Pixeles());
-    EXPECT_EQ(SetStretchBltMode(igual, COLORONCOLOR), COLORONCOLOR);
+    referencia::EsperaPixeles(mitad,
+                              [&](int32_t x, int32_t y) { return o.Point(2 * x + 1, 2 * y + 1); });
 }
 
 } // namespace

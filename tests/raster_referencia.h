@@ -5,8 +5,11 @@
 #include <cstdint>
 #include <deque>
 #include <random>
+#include <string>
 #include <utility>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "raster/Raster.h"
 
@@ -90,6 +93,15 @@ inline int StretchBltLento(Superficie &d, int32_t x, int32_t y, int32_t w, int32
     return Copia(d, x, y, w, h, o, xs, ys, rop, fx, fy);
 }
 
+// Every pixel of s against the colour esperado(x, y).
+template <class Esperado> void EsperaPixeles(const Superficie &s, Esperado esperado) {
+    for (int32_t y = 0; y < s.Alto(); ++y) {
+        for (int32_t x = 0; x < s.Ancho(); ++x) {
+            EXPECT_EQ(s.Point(x, y), esperado(x, y)) << x << "," << y;
+        }
+    }
+}
+
 // A surface of random colours.
 inline Superficie Aleatoria(int32_t w, int32_t h, std::mt19937 &azar) {
     Superficie s(w, h);
@@ -149,3 +161,23 @@ std::vector<bool> Area(const Superficie &s, int32_t x, int32_t y, Dentro dentro)
 }
 
 } // namespace referencia
+
+// A text service that draws nothing and remembers what it was asked.
+class RotuladorRegistro : public Rotulador {
+  public:
+    struct Texto {
+        double x, y;
+        Color color;
+        bool negrita;
+        std::string texto;
+    };
+    std::vector<Texto> textos;
+    double Ancho(const Fuente &, const std::string &t) override {
+        return 6.0 * static_cast<double>(t.size());
+    }
+    double Alto(const Fuente &, const std::string &) override { return 13.0; }
+    void Dibuja(Superficie &, const Fuente &f, double x, double y, Color c,
+                const std::string &t) override {
+        textos.push_back({x, y, c, f.Negrita, t});
+    }
+};

@@ -26,11 +26,9 @@ TEST(RasterSuperficie, CambiaTamanoConservaYRellena) {
         EXPECT_EQ(s.Top, -2);
         ASSERT_EQ(s.Ancho(), c.w);
         ASSERT_EQ(s.Alto(), c.h);
-        for (int32_t y = 0; y < c.h; ++y) {
-            for (int32_t x = 0; x < c.w; ++x) {
-                EXPECT_EQ(s.Fila(y)[x], x < 8 && y < 5 ? antes.Fila(y)[x] : APixel(0x00FF00));
-            }
-        }
+        referencia::EsperaPixeles(s, [&](int32_t x, int32_t y) {
+            return x < 8 && y < 5 ? antes.Point(x, y) : 0x00FF00u;
+        });
     }
 }
 
@@ -56,14 +54,15 @@ TEST(RasterSuperficie, FondoCopiaYQuitaImagen) {
         Superficie d(6, 4, 0x445566);
         d.TomaTamanoDeImagen = toma;
         d.AsignaImagen(imagen);
+        d.PSet(0, 0, COLOR_NEGRO);
+        d.PSet(d.Ancho() - 1, d.Alto() - 1, COLOR_NEGRO);
+        d.Cls(); // the picture comes back, and the background beyond it
         ASSERT_EQ(d.Ancho(), toma ? 4 : 6);
         ASSERT_EQ(d.Alto(), toma ? 7 : 4);
-        for (int32_t y = 0; y < d.Alto(); ++y) {
-            for (int32_t x = 0; x < d.Ancho(); ++x) {
-                EXPECT_EQ(d.Fila(y)[x], x < 4 ? imagen.Fila(y)[x] : APixel(0x445566));
-            }
-        }
+        referencia::EsperaPixeles(
+            d, [&](int32_t x, int32_t y) { return x < 4 ? imagen.Point(x, y) : 0x445566u; });
         d.QuitaImagen();
+        d.Cls();
         EXPECT_EQ(referencia::Cuenta(d, 0x445566), d.Ancho() * d.Alto());
     }
 }
@@ -110,13 +109,9 @@ TEST(RasterSuperficie, CadaEscrituraRespetaElRecorte) {
             s->RellenaFiguras = true;
             kEscrituras[k].first(*s);
         }
-        for (int32_t y = 0; y < 10; ++y) {
-            for (int32_t x = 0; x < 12; ++x) {
-                EXPECT_EQ(recortada.Point(x, y),
-                          marco.Contiene(x, y) ? libre.Point(x, y) : COLOR_BLANCO)
-                    << "escritura " << k << " en " << x << "," << y;
-            }
-        }
+        referencia::EsperaPixeles(recortada, [&](int32_t x, int32_t y) {
+            return marco.Contiene(x, y) ? libre.Point(x, y) : COLOR_BLANCO;
+        });
     }
 }
 
@@ -135,31 +130,16 @@ TEST(RasterSuperficie, TamanoCeroNoHaceNada) {
     EXPECT_EQ(referencia::Cuenta(o, COLOR_BLANCO), 9);
 }
 
-// Records what the text service is asked.
-class RotuladorDePrueba : public Rotulador {
-  public:
-    std::vector<std::string> llamadas;
-    double Ancho(const Fuente &f, const std::string &t) override {
-        return f.Tamano * static_cast<double>(t.size());
-    }
-    double Alto(const Fuente &f, const std::string &) override { return 2 * f.Tamano; }
-    void Dibuja(Superficie &s, const Fuente &, double x, double y, Color c,
-                const std::string &t) override {
-        llamadas.push_back(t + "@" + std::to_string(int(x)) + "," + std::to_string(int(y)));
-        s.EscribePixel(int32_t(x), int32_t(y), APixel(c));
-    }
-};
-
 TEST(RasterSuperficie, TextoPasaPorElRotulador) {
     Superficie s(40, 20);
-    s.Letra.Tamano = 3;
     s.CurrentX = 2;
     s.CurrentY = 5;
     s.ForeColor = 0x0000FF;
-    s.Print("sin");
+    s.Print("sin"); // no service: nothing written, nothing measured
     EXPECT_EQ(s.TextWidth("abc"), 0);
+    EXPECT_EQ(s.TextHeight("x"), 0);
     EXPECT_EQ(s.CurrentX, 2);
-    RotuladorDePrueba r;
+    RotuladorRegistro r;
     PonRotulador(&r);
     EXPECT_EQ(RotuladorActual(), &r);
     std::vector<Rectangulo> informes;
@@ -167,30 +147,12 @@ TEST(RasterSuperficie, TextoPasaPorElRotulador) {
     s.Print("hola");
     s.Print("xy");
     PonRotulador(nullptr);
-    EXPECT_EQ(r.llamadas, (std::vector<std::string>{"hola@2,5", "xy@14,5"}));
-    EXPECT_EQ(s.CurrentX, 20);
-    EXPECT_EQ(s.Point(14, 5), 0x0000FFu);
-    EXPECT_EQ(informes, (std::vector<Rectangulo>{{2, 5, 14, 11}, {14, 5, 20, 11}}));
-    EXPECT_EQ(s.TextHeight("x"), 0);
+    ASSERT_EQ(r.textos.size(), 2u);
+    EXPECT_EQ(r.textos[1].texto, "xy");
+    EXPECT_DOUBLE_EQ(r.textos[1].x, 26);
+    EXPECT_EQ(r.textos[1].color, 0x0000FFu);
+    EXPECT_DOUBLE_EQ(s.CurrentX, 38);
+    EXPECT_EQ(informes, (std::vector<Rectangulo>{{2, 5, 26, 18}, {26, 5, 38, 18}}));
 }
 
 } // namespace
-
-TEST(SuperficieImagen, ClsVuelveAPonerLaImagenAsignada) {
-    Superficie cara(4, 3, 0x00FF00);
-    cara.PSet(1, 1, 0x0000FF);
-    Superficie panel(6, 5, 0xC0C0C0);
-    panel.AsignaImagen(cara);
-    panel.PSet(1, 1, 0xFF0000); // drawn over the picture
-    panel.PSet(5, 4, 0xFF0000); // drawn over the background
-    panel.Cls();
-    EXPECT_EQ(panel.Point(1, 1), 0x0000FFu); // the picture's pixel again
-    EXPECT_EQ(panel.Point(0, 0), 0x00FF00u);
-    EXPECT_EQ(panel.Point(5, 4), 0xC0C0C0u); // beyond the picture: background
-    panel.PonBackColor(0x123456);
-    EXPECT_EQ(panel.Point(1, 1), 0x0000FFu);
-    EXPECT_EQ(panel.Point(5, 4), 0x123456u);
-    panel.QuitaImagen(); // an empty picture: nothing comes back any more
-    panel.Cls();
-    EXPECT_EQ(panel.Point(1, 1), 0x123456u);
-}

@@ -83,11 +83,3 @@ TEST_F(Servicios, SinSonidoNoSuenaNiDejaPasarEventos) {
     PermiteEventos();
     EXPECT_EQ(eventos, 3);
 }
-
-TEST_F(Servicios, PonCursorDaElPunteroPropio) {
-    PonCursor(teselari.Pic_Cronome, "ManoBlanca");
-    EXPECT_EQ(teselari.Pic_Cronome.MousePointer, PUNTERO_PROPIO);
-    EXPECT_EQ(teselari.Pic_Cronome.MouseIcon, "MANOBLANCA");
-    PonCursor(teselari.Pic_Cronome, "manoindice");
-    EXPECT_EQ(teselari.Pic_Cronome.MouseIcon, "MANOINDICE");
-}
