@@ -1,11 +1,12 @@
 // The worked examples of the grid, the difficulty, the margins, the
-// figures and the scroll ranges.
+// sockets, the figures and the scroll ranges.
 #include <cmath>
 
 #include "core/Redondeo.h"
 #include "core/Rejilla.h"
 #include "cutting/Corte.h"
 #include "cutting/Figuras.h"
+#include "cutting/Plantillas.h"
 #include "motor_comun.h"
 
 using namespace PuzzGbl;
@@ -81,6 +82,19 @@ TEST_F(Motor, MargenesDelEjemplo) {
          {&teselari.Pic_PiezaMascara, &teselari.Pic_PiezaImagen, &teselari.Pic_PiezaFinal}) {
         EXPECT_EQ(s->Ancho(), 104);
         EXPECT_EQ(s->Alto(), 92);
+    }
+}
+
+TEST(Plantillas, LaBocaDelHuecoSeEstrechaAlCrecerLaRejilla) {
+    // 117 to 68 degrees on a grid of 3, 100 to 85 on one of 20; the bottom
+    // socket half a turn round.
+    const double casos[][3] = {{3, 117, 68}, {20, 100, 85}};
+    for (const auto &[n, inicio, fin] : casos) {
+        const ArcosPlantilla b = ArcosPlantillaB(0, 0, 80, 60, n);
+        EXPECT_DOUBLE_EQ(b[1].inicio, inicio) << n;
+        EXPECT_DOUBLE_EQ(b[1].fin, fin) << n;
+        EXPECT_DOUBLE_EQ(b[10].inicio, inicio + 180) << n;
+        EXPECT_DOUBLE_EQ(b[10].fin, fin + 180) << n;
     }
 }
 
