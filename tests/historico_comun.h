@@ -8,8 +8,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "core/EscrituraSegura.h"
@@ -103,15 +101,6 @@ class Historia : public ::testing::Test {
     }
 
     std::string Ruta() const { return carpeta + "/TESEL32.HIS"; }
-    void EscribeHis(const std::string &contenido) const {
-        std::ofstream(Ruta(), std::ios::binary) << contenido;
-    }
-    std::string LeeHis() const {
-        std::ifstream f(Ruta(), std::ios::binary);
-        std::stringstream s;
-        s << f.rdbuf();
-        return s.str();
-    }
     // The texts of the messages shown so far.
     std::vector<std::string> Mensajes() const {
         std::vector<std::string> t;

@@ -40,7 +40,7 @@ class Lectura : public Historia, public ::testing::WithParamInterface<CasoLectur
 // and every record counted is read into it.
 TEST_P(Lectura, LeeLoQueElFicheroTiene) {
     const CasoLectura &c = GetParam();
-    EscribeHis(c.contenido);
+    EscribeFichero(Ruta(), c.contenido);
     LeeHistorico();
     EXPECT_EQ(NroRegistrosHistorico, c.registros);
     EXPECT_EQ(Historico.size(), static_cast<size_t>(c.registros) + 21);
@@ -198,17 +198,19 @@ class Final : public Historia {
 // message is acknowledged; the file reads back as the table; finishing the
 // same deal again, no longer a fair game, adds nothing.
 TEST_F(Final, UnaPartidaLimpiaEntraUnaVez) {
-    EscribeHis(SinFinal(LINEA_1) + "\x1A"); // an old file without its last CR LF
+    EscribeFichero(Ruta(), SinFinal(LINEA_1) + "\x1A"); // an old file without its last CR LF
     LeeHistorico();
     PartidaValida = VERDADERO;
-    escritorio.alMostrarMensaje = [this] { EXPECT_EQ(LeeHis(), SinFinal(LINEA_1) + "\x1A"); };
+    escritorio.alMostrarMensaje = [this] {
+        EXPECT_EQ(LeeFichero(Ruta()), SinFinal(LINEA_1) + "\x1A");
+    };
     TerminaLaPartida();
     ASSERT_EQ(Mensajes(), std::vector<std::string>{"Ha conseguido resolver el puzzle"});
     EXPECT_EQ(PartidaValida, FALSO);
     const std::string esperada = "\"23/11/2026\",\"18:05:09\",\"Mu\xF1"
                                  "eca '\xD1' d\",300,300,3,0,"
                                  "9,100,100,";
-    const std::string fichero = LeeHis();
+    const std::string fichero = LeeFichero(Ruta());
     ASSERT_EQ(fichero.rfind(SinFinal(LINEA_1) + "\r\n" + esperada, 0), 0u) << fichero;
     const std::string resto = fichero.substr(LINEA_1.size() + esperada.size());
     float leida = 0;
@@ -224,7 +226,7 @@ TEST_F(Final, UnaPartidaLimpiaEntraUnaVez) {
     escritorio.alMostrarMensaje = nullptr;
     TerminaLaPartida();
     EXPECT_EQ(escritorio.mensajes.size(), 2u);
-    EXPECT_EQ(LeeHis(), fichero);
+    EXPECT_EQ(LeeFichero(Ruta()), fichero);
     EXPECT_EQ(NroRegistrosHistorico, 2);
 }
 
@@ -232,7 +234,7 @@ TEST_F(Final, UnaPartidaLimpiaEntraUnaVez) {
 // whole. After a full disk the record waits, and the next write takes it.
 TEST_F(Historia, UnFalloAlEscribirDejaEnterosLosRegistrosViejos) {
     const std::string viejo = Lineas(1, 3);
-    EscribeHis(viejo);
+    EscribeFichero(Ruta(), viejo);
     LeeHistorico();
     const pid_t hijo = fork();
     ASSERT_GE(hijo, 0);
@@ -244,10 +246,10 @@ TEST_F(Historia, UnFalloAlEscribirDejaEnterosLosRegistrosViejos) {
     int estado = 0;
     ASSERT_EQ(waitpid(hijo, &estado, 0), hijo);
     EXPECT_TRUE(WIFSIGNALED(estado) && WTERMSIG(estado) == SIGKILL);
-    EXPECT_EQ(LeeHis(), viejo);
+    EXPECT_EQ(LeeFichero(Ruta()), viejo);
     SimulaFalloEscritura(static_cast<int64_t>(viejo.size() + 30));
     AnadeHistorico();
-    EXPECT_EQ(LeeHis(), viejo);
+    EXPECT_EQ(LeeFichero(Ruta()), viejo);
     EXPECT_FALSE(LineasHistoricoPendientes.empty());
     SimulaFalloEscritura(-1);
     AnadeHistorico();
@@ -263,7 +265,7 @@ TEST_F(Historia, UnFalloAlEscribirDejaEnterosLosRegistrosViejos) {
 TEST_F(Historia, ElTopeDeLaTablaNoPierdeRegistrosDelFichero) {
     const int total = MAXIMO_REGISTROS_HISTORICO + 3;
     const std::string viejo = Lineas(1, total);
-    EscribeHis(viejo);
+    EscribeFichero(Ruta(), viejo);
     LeeHistorico();
     EXPECT_TRUE(escritorio.mensajes.empty());
     ASSERT_EQ(NroRegistrosHistorico, MAXIMO_REGISTROS_HISTORICO);
@@ -273,7 +275,7 @@ TEST_F(Historia, ElTopeDeLaTablaNoPierdeRegistrosDelFichero) {
     EXPECT_EQ(NroRegistrosHistorico, MAXIMO_REGISTROS_HISTORICO);
     EXPECT_EQ(Historico[1], RegistroNumerado(5));
     EXPECT_EQ(Historico[MAXIMO_REGISTROS_HISTORICO].Fecha, "23/11/2026");
-    const std::string fichero = LeeHis();
+    const std::string fichero = LeeFichero(Ruta());
     EXPECT_EQ(fichero.substr(0, viejo.size()), viejo);
     EXPECT_EQ(std::count(fichero.begin(), fichero.end(), '\n'), total + 1);
 }

@@ -239,9 +239,17 @@ TEST_F(Libro, ElRatonSobreElLibro) {
 // typed becomes NombreJugador, padded or cut to nine characters.
 TEST_F(Libro, CadaValorEnSuRenglonYDentroDeSuColumna) {
     NombreImagen = "una fotografía de vacaciones con un nombre muy largo.jpg";
-    AnchoPuzzle = 640, AltoPuzzle = 480, PiezasPorLado = 8, TipoPieza = 5, NroPiezas = 128;
-    AnchoPieza = 80, AltoPieza = 60, Dificultad = 42.0625f, SegundosCronometro = 3725;
-    PartidaValida = VERDADERO, PuzzleCompleto = FALSO;
+    AnchoPuzzle = 640;
+    AltoPuzzle = 480;
+    PiezasPorLado = 8;
+    TipoPieza = 5;
+    NroPiezas = 128;
+    AnchoPieza = 80;
+    AltoPieza = 60;
+    Dificultad = 42.0625f;
+    SegundosCronometro = 3725;
+    PartidaValida = VERDADERO;
+    PuzzleCompleto = FALSO;
     RegistroHistorico r = RegistroNumerado(1, "Eva", "CASA.JPG", 99.9f, 3661);
     r.TipoPieza = 9;
     Llena({r});

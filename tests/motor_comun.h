@@ -6,6 +6,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <string>
 #include <vector>
 
 #include "core/PuzzGbl.h"
@@ -41,6 +44,16 @@ inline void PreparaJuego(int16_t lado, int16_t tipo, int32_t ancho, int32_t alto
     VueltasPorSegundo = 0;
     teselari.Pic_BotonesSiempre.Move(anchoPantalla - 16 - 62, 0, 62, 667);
     PintaImagenGenerada(teselari.Pic_Origin, ancho, alto);
+}
+
+// A whole file, written and read byte for byte.
+inline void EscribeFichero(const std::string &ruta, const std::string &contenido) {
+    std::ofstream(ruta, std::ios::binary | std::ios::trunc) << contenido;
+}
+
+inline std::string LeeFichero(const std::string &ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(f), {});
 }
 
 // The position in OrdenPiezas of piece k.

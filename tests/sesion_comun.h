@@ -7,7 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <optional>
 #include <set>
 #include <string>
@@ -22,6 +21,9 @@
 #include "session/Sesion.h"
 
 namespace sesion_prueba {
+
+using ::EscribeFichero;
+using ::LeeFichero;
 
 struct MensajeVisto {
     std::string titulo, texto;
@@ -57,16 +59,6 @@ inline CargaDeImagen CargadorDePrueba(const std::string &fichero, Superficie &de
     }
     PintaImagenGenerada(destino, w, h);
     return {EstadoCarga::Leida, w, h};
-}
-
-inline void EscribeFichero(const std::string &ruta, const std::string &contenido) {
-    std::ofstream f(ruta, std::ios::binary | std::ios::trunc);
-    f << contenido;
-}
-
-inline std::string LeeFichero(const std::string &ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(f), {});
 }
 
 inline void EscribeImagen(const std::string &ruta, int32_t w, int32_t h) {

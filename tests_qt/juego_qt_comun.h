@@ -145,14 +145,36 @@ class JuegoQt : public testing::Test {
         RepintaTablero();
     }
 
+    // The window as the screen shows it.
+    QImage Pantalla() const {
+        return QGuiApplication::primaryScreen()
+            ->grabWindow(ventana->winId())
+            .toImage()
+            .convertToFormat(QImage::Format_RGB32);
+    }
+
+    // The pixels of `r` (window coordinates) where the screen differs from
+    // surface s, whose corner stands at `origen`; the first one for the
+    // message.
+    static int Distintos(const QImage &pantalla, const CuadroImagen &s, QPoint origen,
+                         const QRect &r, std::string *primero = nullptr) {
+        int distintos = 0;
+        for (int y = r.top(); y <= r.bottom(); ++y) {
+            for (int x = r.left(); x <= r.right(); ++x) {
+                const uint32_t visto = pantalla.pixel(x, y) & 0xFFFFFF;
+                const uint32_t debido = s.Fila(y - origen.y())[x - origen.x()] & 0xFFFFFF;
+                if (visto != debido && distintos++ == 0 && primero != nullptr) {
+                    *primero = std::to_string(x) + "," + std::to_string(y);
+                }
+            }
+        }
+        return distintos;
+    }
+
     // What the screen shows of the work area, where no other control lies
-    // over it, against the surface's pixels; the number of pixels that
-    // differ (and the first one, for the message).
+    // over it, against the surface's pixels.
     int PixelesDistintosEnPantalla(std::string *primero = nullptr) const {
-        const QImage pantalla = QGuiApplication::primaryScreen()
-                                    ->grabWindow(ventana->winId())
-                                    .toImage()
-                                    .convertToFormat(QImage::Format_RGB32);
+        const QImage pantalla = Pantalla();
         // The other controls stand where the game's state puts them: a
         // surface the game has hidden must no longer be seen.
         QRegion libre(ventana->Pic_Trabajo->geometry() & ventana->rect());
@@ -172,19 +194,11 @@ class JuegoQt : public testing::Test {
             libre -= QRect(modelo.Left, modelo.Top, modelo.Ancho(), modelo.Alto())
                          .translated(ventana->Pic_Trabajo->pos());
         }
-        const CuadroImagen &s = PuzzGbl::teselari.Pic_Trabajo;
-        const QPoint origen = ventana->Pic_Trabajo->pos();
         int distintos = 0;
         for (const QRect &r : libre) {
-            for (int y = r.top(); y <= r.bottom(); ++y) {
-                for (int x = r.left(); x <= r.right(); ++x) {
-                    const uint32_t visto = pantalla.pixel(x, y) & 0xFFFFFF;
-                    const uint32_t debido = s.Fila(y - origen.y())[x - origen.x()] & 0xFFFFFF;
-                    if (visto != debido && distintos++ == 0 && primero != nullptr) {
-                        *primero = std::to_string(x) + "," + std::to_string(y);
-                    }
-                }
-            }
+            distintos +=
+                Distintos(pantalla, PuzzGbl::teselari.Pic_Trabajo, ventana->Pic_Trabajo->pos(), r,
+                          distintos == 0 ? primero : nullptr);
         }
         return distintos;
     }
@@ -193,18 +207,7 @@ class JuegoQt : public testing::Test {
     bool SeVeSuSuperficie(VistaSuperficie *v) {
         const CuadroImagen &s = v->Control();
         const QPoint p = v->mapTo(ventana.get(), QPoint(0, 0));
-        const QImage visto = QGuiApplication::primaryScreen()
-                                 ->grabWindow(ventana->winId(), p.x(), p.y(), s.Ancho(), s.Alto())
-                                 .toImage()
-                                 .convertToFormat(QImage::Format_RGB32);
-        for (int y = 0; y < s.Alto(); ++y) {
-            for (int x = 0; x < s.Ancho(); ++x) {
-                if ((visto.pixel(x, y) & 0xFFFFFF) != (s.Fila(y)[x] & 0xFFFFFF)) {
-                    return false;
-                }
-            }
-        }
-        return true;
+        return Distintos(Pantalla(), s, p, QRect(p, QSize(s.Ancho(), s.Alto()))) == 0;
     }
 
     std::unique_ptr<VentanaTeselari> ventana;
