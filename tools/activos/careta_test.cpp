@@ -11,12 +11,8 @@
 #include <sstream>
 
 #include "CaretaArte.h"
-#include "ComparaImagenes.h"
 #include "IconoJuego.h"
-
-// The text is drawn from the font files, which wants an application (the
-// one of generador_test.cpp, in the same executable).
-void AseguraAplicacion();
+#include "comun_test.h"
 
 namespace {
 

@@ -5,16 +5,15 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QImage>
 #include <QTemporaryDir>
 #include <sstream>
 
-#include "ComparaImagenes.h"
 #include "Escritura.h"
 #include "Iconos.h"
 #include "Muestras.h"
 #include "Sonidos.h"
+#include "comun_test.h"
 
 namespace {
 
@@ -26,18 +25,6 @@ QByteArray LeeBytes(const QString &ruta) {
 }
 
 } // namespace
-
-// Text is drawn from the font files, but an application without a display
-// keeps Qt's font machinery quiet. The splash's tests call it too.
-void AseguraAplicacion() {
-    static int argc = 1;
-    static char nombre[] = "teselari_activos_tests";
-    static char *argv[] = {nombre, nullptr};
-    if (QGuiApplication::instance() == nullptr) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static QGuiApplication app(argc, argv);
-    }
-}
 
 // --- a whole run ---
 

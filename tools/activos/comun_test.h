@@ -1,12 +1,27 @@
+// What the asset tests share. An application for Qt's text: the text is
+// drawn from the font files, but an application without a display keeps
+// Qt's font machinery quiet.
+//
 // Compares a freshly drawn asset with the committed one. Antialiased edges
 // may come out a unit or two apart in a colour channel from one CPU's
 // vector path to another's, so a channel may differ by a little; anything
 // drawn in another place or colour differs by far more.
 #pragma once
 
+#include <QGuiApplication>
 #include <QImage>
 #include <cstdlib>
 #include <gtest/gtest.h>
+
+inline void AseguraAplicacion() {
+    static int argc = 1;
+    static char nombre[] = "teselari_activos_tests";
+    static char *argv[] = {nombre, nullptr};
+    if (QGuiApplication::instance() == nullptr) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static QGuiApplication app(argc, argv);
+    }
+}
 
 inline testing::AssertionResult CasiIguales(const QImage &a, const QImage &b, int tolerancia = 3) {
     if (a.size() != b.size()) {
