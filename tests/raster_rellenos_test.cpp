@@ -7,22 +7,6 @@
 
 namespace {
 
-// A diamond drawn with diagonal steps: |x - 10| + |y - 10| == 8. Its inside
-// has 2 * 7 * 8 + 1 = 113 pixels.
-TEST(RasterRellenos, ContornoDiagonalRetieneElRelleno) {
-    Superficie s(21, 21);
-    s.Line(10, 2, 18, 10);
-    s.Line(18, 10, 10, 18);
-    s.Line(10, 18, 2, 10);
-    s.Line(2, 10, 10, 2);
-    s.FillColor = 0x0000FF;
-    EXPECT_EQ(FloodFill(s, 10, 10, COLOR_NEGRO), 1);
-    referencia::EsperaPixeles(s, [](int32_t x, int32_t y) {
-        const int32_t d = std::abs(x - 10) + std::abs(y - 10);
-        return d < 8 ? 0x0000FFu : d == 8 ? COLOR_NEGRO : COLOR_BLANCO;
-    });
-}
-
 TEST(RasterRellenos, SemillaInvalidaNoPinta) {
     Superficie s(10, 10);
     s.Caja(2, 2, 7, 7);
