@@ -54,22 +54,6 @@ class Careta : public Motor {
     FormCareta form;
 };
 
-TEST_F(Careta, ElPanelQuedaCentradoEnCualquierPantalla) {
-    for (const auto &[ancho, alto] : {std::pair{800, 600}, {1024, 768}, {1920, 1080}}) {
-        FormCareta f;
-        f.Form_Load(ancho, alto);
-        // As much black on one side as on the other, to a pixel.
-        const int32_t derecha = ancho - f.Pic_Todos.Left - f.Pic_Todos.Ancho();
-        const int32_t abajo = alto - f.Pic_Todos.Top - f.Pic_Todos.Alto();
-        EXPECT_LE(std::abs(derecha - f.Pic_Todos.Left), 1) << ancho;
-        EXPECT_LE(std::abs(abajo - f.Pic_Todos.Top), 1) << ancho;
-        // The sources are out of sight, right of the screen.
-        for (const CuadroImagen *s : {&f.Pic_Logo, &f.Pic_Icono, &f.Pic_Bmp}) {
-            EXPECT_GE(s->Left, ancho);
-        }
-    }
-}
-
 TEST_F(Careta, ElMarcoRodeaLaVentanaConSusLadosOscuros) {
     const CuadroImagen &t = form.Pic_Todos;
     ASSERT_EQ(t.Ancho(), 323);
