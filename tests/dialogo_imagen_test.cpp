@@ -1,7 +1,6 @@
 // The picture column of AbrirFic: the zoom that brings a file within the
 // limits, its messages, the shapes the proportions allow, the lists of
 // files and folders, the clipboard picture.
-#include <unistd.h>
 
 #include "dialogo_comun.h"
 #include "plataforma_prueba.h"
@@ -198,51 +197,6 @@ TEST_F(Dialogo, File1ListaLasImagenesOrdenadasSinMayusculas) {
     EXPECT_EQ(l.ListIndex(), -1);
     EXPECT_TRUE(CoincideConPatron("r2d2.txt", "r?d?.*"));
     EXPECT_FALSE(CoincideConPatron("r2d.txt", "r?d?.*"));
-}
-
-TEST_F(Dialogo, UnaCarpetaIlegibleDejaLasListasVacias) {
-    const std::string cerrada = raiz + "/cerrada";
-    std::filesystem::create_directories(cerrada + "/dentro");
-    PonImagen("../cerrada/x.bmp", 320, 240);
-    ::chmod(cerrada.c_str(), 0);
-    const bool legible = ::access(cerrada.c_str(), R_OK) == 0; // root reads anyway
-    ListaFicheros fic;
-    fic.Pattern = "*.bmp";
-    ListaCarpetas dir;
-    for (const std::string &ruta : {cerrada, raiz + "/no_existe", fotos + "/a.bmp"}) {
-        fic.PonPath(ruta);
-        if (ruta != cerrada || !legible) {
-            EXPECT_EQ(fic.ListCount(), 0) << ruta;
-        }
-    }
-    EXPECT_EQ(dir.PonPath(raiz + "/no_existe"), 76);
-    EXPECT_EQ(dir.PonPath(fotos + "/a.bmp"), 76);
-    EXPECT_EQ(dir.PonPath(cerrada), 0);
-    EXPECT_EQ(dir.Path(), cerrada);
-    if (!legible) {
-        EXPECT_EQ(dir.ListCount(), dir.IndiceActual() + 1); // no sub-folder shown
-    }
-    ::chmod(cerrada.c_str(), 0755);
-}
-
-TEST_F(Dialogo, Dir1SubeYEntraYLaCarpetaDelProcesoLaSigue) {
-    std::filesystem::create_directories(fotos + "/sub");
-    PonImagen("sub/s.bmp", 320, 240);
-    Abre();
-    ASSERT_EQ(f->Dir1.Path(), fotos);
-    const int32_t sub = f->Dir1.IndiceActual() + 1;
-    ASSERT_EQ(f->Dir1.List(sub), "sub");
-    sonidos.clear();
-    f->Dir1.Abre(sub);
-    EXPECT_EQ(std::filesystem::current_path(), fotos + "/sub");
-    EXPECT_EQ(f->File1.Elementos(), std::vector<std::string>{"s.bmp"});
-    EXPECT_EQ(f->File1.ListIndex(), -1);
-    EXPECT_EQ(sonidos, std::vector<int16_t>{12});
-    // A new folder alone changes no picture.
-    EXPECT_EQ(CarpetaImagen, fotos);
-    f->Dir1.Sube();
-    EXPECT_EQ(f->Dir1.Path(), fotos);
-    EXPECT_EQ(std::filesystem::current_path(), fotos);
 }
 
 // --- clipboard ---
