@@ -13,6 +13,7 @@
 #include "dialog/FormAbrirFic.h"
 #include "dialog/ServiciosDialogo.h"
 #include "plataforma_prueba.h"
+#include "raster_referencia.h"
 #include "services/Ayuda.h"
 #include "services/Sonidos.h"
 #include "sesion_comun.h"
@@ -32,27 +33,6 @@ inline CargaDeImagen CargaDePrueba(const std::string &fichero, Superficie &desti
     PintaImagenGenerada(destino, lados[0], lados[1]);
     return {EstadoCarga::Leida, lados[0], lados[1]};
 }
-
-// Every text printed, with the surface it went to.
-struct RotuladorDialogo : Rotulador {
-    std::vector<std::pair<const Superficie *, std::string>> textos;
-    double Ancho(const Fuente &, const std::string &t) override {
-        return 6.0 * static_cast<double>(t.size());
-    }
-    double Alto(const Fuente &, const std::string &) override { return 13.0; }
-    void Dibuja(Superficie &s, const Fuente &, double, double, Color,
-                const std::string &t) override {
-        textos.emplace_back(&s, t);
-    }
-    std::string Ultimo(const Superficie &s) const {
-        for (auto it = textos.rbegin(); it != textos.rend(); ++it) {
-            if (it->first == &s) {
-                return it->second;
-            }
-        }
-        return {};
-    }
-};
 
 inline std::function<void(FormAbrirFic &)> alMostrar;
 inline std::vector<int16_t> temasAyuda;
@@ -135,7 +115,7 @@ class Dialogo : public Sesion {
         FAIL() << nombre << " is not listed";
     }
 
-    dialogo_prueba::RotuladorDialogo rotulador;
+    RotuladorRegistro rotulador;
     std::unique_ptr<FormAbrirFic> f;
     std::string fotos;
 };

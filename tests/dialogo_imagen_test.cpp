@@ -1,7 +1,6 @@
 // The picture column of AbrirFic: the zoom that brings a file within the
-// limits, its messages, the shapes the proportions allow, the list
-// controls, the clipboard picture.
-#include <unistd.h>
+// limits, its messages, the shapes the proportions allow, the lists of
+// files and folders, the clipboard picture.
 
 #include "dialogo_comun.h"
 #include "plataforma_prueba.h"
@@ -139,33 +138,18 @@ INSTANTIATE_TEST_SUITE_P(Proporciones, FormasPorProporcion,
                                            CasoFormas{300, 700, 3, 3, false, true},
                                            CasoFormas{630, 300, 1, 1, true, true}));
 
-// --- list controls ---
-
-TEST(ListaDialogo, ElClickSoloAlCambiarAOtraEntrada) {
+// Setting the entry already chosen, or none again, is no click.
+TEST(ListaDialogo, ElMismoIndiceNoVuelveAAvisar) {
     ListaDialogo l;
     int clicks = 0;
     l.Click = [&clicks] { ++clicks; };
-    for (const char *t : {"uno", "dos", "tres"}) {
-        l.AddItem(t);
+    l.AddItem("uno");
+    l.AddItem("dos");
+    for (int32_t i : {1, 1, 7, -1, 0}) { // 7 is no entry: none
+        l.PonListIndex(i);
     }
-    struct Paso {
-        int32_t asigna, indice, clicks;
-    };
-    const Paso pasos[] = {{1, 1, 1}, {1, 1, 1}, {2, 2, 2}, {-1, -1, 2}, {0, 0, 3}, {7, -1, 3}};
-    for (const Paso &p : pasos) {
-        l.PonListIndex(p.asigna);
-        EXPECT_EQ(l.ListIndex(), p.indice) << p.asigna;
-        EXPECT_EQ(clicks, p.clicks) << p.asigna;
-    }
-    // The player's click counts also on the selected entry.
-    l.Pulsa(0);
-    l.Pulsa(2);
-    EXPECT_EQ(l.ListIndex(), 2);
-    EXPECT_EQ(clicks, 5);
-    l.Clear();
-    EXPECT_EQ(l.ListIndex(), -1);
-    EXPECT_EQ(l.ListCount(), 0);
-    EXPECT_EQ(clicks, 5);
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(l.ListIndex(), 0);
 }
 
 TEST_F(Dialogo, ElMismoFicheroOtraVezDevuelveSuZoom) {
@@ -213,51 +197,6 @@ TEST_F(Dialogo, File1ListaLasImagenesOrdenadasSinMayusculas) {
     EXPECT_EQ(l.ListIndex(), -1);
     EXPECT_TRUE(CoincideConPatron("r2d2.txt", "r?d?.*"));
     EXPECT_FALSE(CoincideConPatron("r2d.txt", "r?d?.*"));
-}
-
-TEST_F(Dialogo, UnaCarpetaIlegibleDejaLasListasVacias) {
-    const std::string cerrada = raiz + "/cerrada";
-    std::filesystem::create_directories(cerrada + "/dentro");
-    PonImagen("../cerrada/x.bmp", 320, 240);
-    ::chmod(cerrada.c_str(), 0);
-    const bool legible = ::access(cerrada.c_str(), R_OK) == 0; // root reads anyway
-    ListaFicheros fic;
-    fic.Pattern = "*.bmp";
-    ListaCarpetas dir;
-    for (const std::string &ruta : {cerrada, raiz + "/no_existe", fotos + "/a.bmp"}) {
-        fic.PonPath(ruta);
-        if (ruta != cerrada || !legible) {
-            EXPECT_EQ(fic.ListCount(), 0) << ruta;
-        }
-    }
-    EXPECT_EQ(dir.PonPath(raiz + "/no_existe"), 76);
-    EXPECT_EQ(dir.PonPath(fotos + "/a.bmp"), 76);
-    EXPECT_EQ(dir.PonPath(cerrada), 0);
-    EXPECT_EQ(dir.Path(), cerrada);
-    if (!legible) {
-        EXPECT_EQ(dir.ListCount(), dir.IndiceActual() + 1); // no sub-folder shown
-    }
-    ::chmod(cerrada.c_str(), 0755);
-}
-
-TEST_F(Dialogo, Dir1SubeYEntraYLaCarpetaDelProcesoLaSigue) {
-    std::filesystem::create_directories(fotos + "/sub");
-    PonImagen("sub/s.bmp", 320, 240);
-    Abre();
-    ASSERT_EQ(f->Dir1.Path(), fotos);
-    const int32_t sub = f->Dir1.IndiceActual() + 1;
-    ASSERT_EQ(f->Dir1.List(sub), "sub");
-    sonidos.clear();
-    f->Dir1.Abre(sub);
-    EXPECT_EQ(std::filesystem::current_path(), fotos + "/sub");
-    EXPECT_EQ(f->File1.Elementos(), std::vector<std::string>{"s.bmp"});
-    EXPECT_EQ(f->File1.ListIndex(), -1);
-    EXPECT_EQ(sonidos, std::vector<int16_t>{12});
-    // A new folder alone changes no picture.
-    EXPECT_EQ(CarpetaImagen, fotos);
-    f->Dir1.Sube();
-    EXPECT_EQ(f->Dir1.Path(), fotos);
-    EXPECT_EQ(std::filesystem::current_path(), fotos);
 }
 
 // --- clipboard ---

@@ -124,16 +124,6 @@ std::string NombreModo(const ::testing::TestParamInfo<CasoModo> &info) {
 
 INSTANTIATE_TEST_SUITE_P(Comandos, TablaModos, ::testing::ValuesIn(CasosModos()), NombreModo);
 
-TEST_F(Pulsa, ElSeisDosVecesDevuelveLosColoresPropios) {
-    const Superficie antes = teselari.Pic_Imagen;
-    PulsaBoton(6);
-    EXPECT_EQ(ModoColocadas, VERDADERO);
-    EXPECT_FALSE(MismosPixeles(teselari.Pic_Imagen, antes));
-    PulsaBoton(6);
-    EXPECT_EQ(ModoColocadas, FALSO);
-    EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, antes));
-}
-
 class Completo : public Pulsa, public ::testing::WithParamInterface<int> {};
 
 // A finished puzzle: 5 to 9 change nothing, not even the look of their

@@ -41,30 +41,14 @@ TEST(RasterBloques, TablasDeVerdad) {
     }
 }
 
-struct Recorte {
-    int32_t x, y, w, h, xs, ys;
-    int escritos;
-};
-
-// Destination 8x6, source 5x4: every edge of both, outside, empty sizes.
-const Recorte kRecortes[] = {
-    {0, 0, 5, 4, 0, 0, 20},     {-2, 0, 5, 4, 0, 0, 12},  {6, 0, 5, 4, 0, 0, 8},
-    {0, 4, 5, 4, 0, 0, 10},     {0, -3, 5, 4, 0, 0, 5},   {0, 0, 5, 4, -1, 0, 16},
-    {0, 0, 5, 4, 2, 0, 12},     {0, 0, 5, 4, 0, 3, 5},    {0, 0, 5, 4, 0, -2, 10},
-    {3, 2, 100, 100, 0, 0, 20}, {-3, -1, 5, 4, -1, 1, 4}, {20, 0, 5, 4, 0, 0, 0},
-    {-5, 0, 5, 4, 0, 0, 0},     {0, 0, 5, 4, 10, 10, 0},  {0, 0, 0, 4, 0, 0, 0},
-    {0, 0, -3, 4, 0, 0, 0},     {0, 0, 5, -1, 0, 0, 0},   {INT32_MAX - 2, 0, 5, 4, 0, 0, 0}};
-
-TEST(RasterBloques, RecortaBordesDeDestinoYOrigen) {
-    std::mt19937 azar(7);
-    for (const Recorte &c : kRecortes) {
-        const Superficie o(5, 4, COLOR_NEGRO);
-        Superficie d(8, 6), esperado(8, 6);
-        EXPECT_EQ(BitBlt(d, c.x, c.y, c.w, c.h, o, c.xs, c.ys, SRCCOPY), 1);
-        referencia::BitBltLento(esperado, c.x, c.y, c.w, c.h, o, c.xs, c.ys, SRCCOPY);
-        EXPECT_EQ(referencia::Cuenta(d, COLOR_NEGRO), c.escritos) << c.x << "," << c.y;
-        EXPECT_EQ(d.Pixeles(), esperado.Pixeles()) << c.x << "," << c.y;
-    }
+// The edges of both surfaces are the random cases' work; at the far end of
+// the coordinates nothing is written and nothing overflows (the sanitizer
+// build watches).
+TEST(RasterBloques, ALaOrillaDeLosEnterosNoEscribe) {
+    Superficie d(8, 6);
+    const Superficie o(5, 4, COLOR_NEGRO);
+    EXPECT_EQ(BitBlt(d, INT32_MAX - 2, INT32_MAX - 2, 5, 4, o, 0, 0, SRCCOPY), 1);
+    EXPECT_EQ(referencia::Cuenta(d, COLOR_NEGRO), 0);
 }
 
 // The clip regions a blit meets: a rectangle, an AND, a DIFF with a hole,

@@ -162,7 +162,8 @@ std::vector<bool> Area(const Superficie &s, int32_t x, int32_t y, Dentro dentro)
 
 } // namespace referencia
 
-// A text service that draws nothing and remembers what it was asked.
+// A text service that draws nothing and remembers what it was asked, and
+// on which surface.
 class RotuladorRegistro : public Rotulador {
   public:
     struct Texto {
@@ -170,14 +171,24 @@ class RotuladorRegistro : public Rotulador {
         Color color;
         bool negrita;
         std::string texto;
+        const Superficie *destino;
     };
     std::vector<Texto> textos;
     double Ancho(const Fuente &, const std::string &t) override {
         return 6.0 * static_cast<double>(t.size());
     }
     double Alto(const Fuente &, const std::string &) override { return 13.0; }
-    void Dibuja(Superficie &, const Fuente &f, double x, double y, Color c,
+    void Dibuja(Superficie &s, const Fuente &f, double x, double y, Color c,
                 const std::string &t) override {
-        textos.push_back({x, y, c, f.Negrita, t});
+        textos.push_back({x, y, c, f.Negrita, t, &s});
+    }
+    // The last text printed on s.
+    std::string Ultimo(const Superficie &s) const {
+        for (auto it = textos.rbegin(); it != textos.rend(); ++it) {
+            if (it->destino == &s) {
+                return it->texto;
+            }
+        }
+        return {};
     }
 };

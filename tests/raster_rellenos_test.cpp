@@ -1,4 +1,5 @@
-// Flood fills: 4-connected, held by 8-connected outlines, clip, references.
+// Flood fills: bad seeds and the per-pixel reference. The clip is every
+// write's, in raster_superficie_test.cpp.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -6,22 +7,6 @@
 #include "raster_referencia.h"
 
 namespace {
-
-// A diamond drawn with diagonal steps: |x - 10| + |y - 10| == 8. Its inside
-// has 2 * 7 * 8 + 1 = 113 pixels.
-TEST(RasterRellenos, ContornoDiagonalRetieneElRelleno) {
-    Superficie s(21, 21);
-    s.Line(10, 2, 18, 10);
-    s.Line(18, 10, 10, 18);
-    s.Line(10, 18, 2, 10);
-    s.Line(2, 10, 10, 2);
-    s.FillColor = 0x0000FF;
-    EXPECT_EQ(FloodFill(s, 10, 10, COLOR_NEGRO), 1);
-    referencia::EsperaPixeles(s, [](int32_t x, int32_t y) {
-        const int32_t d = std::abs(x - 10) + std::abs(y - 10);
-        return d < 8 ? 0x0000FFu : d == 8 ? COLOR_NEGRO : COLOR_BLANCO;
-    });
-}
 
 TEST(RasterRellenos, SemillaInvalidaNoPinta) {
     Superficie s(10, 10);
@@ -67,19 +52,6 @@ TEST(RasterRellenos, IgualQueUnaBusquedaSencilla) {
                                  : ExtFloodFill(s, x, y, colores[0], FLOODFILLBORDER);
         EXPECT_EQ(r, superficie || semilla != APixel(colores[0]) ? 1 : 0);
         ASSERT_EQ(s.Pixeles(), esperado.Pixeles()) << "caso " << caso;
-    }
-}
-
-// Pixels outside the clip region are crossed but not painted.
-TEST(RasterRellenos, RecorteLimitaSoloLaPintura) {
-    Superficie s(12, 5);
-    Region todo(Rectangulo{0, 0, 12, 5}), banda(Rectangulo{5, 0, 7, 5}), r;
-    CombineRgn(r, todo, banda, RGN_DIFF);
-    SelectClipRgn(s, &r);
-    s.FillColor = 0x0000FF;
-    EXPECT_EQ(FloodFill(s, 0, 0, COLOR_NEGRO), 1);
-    for (int32_t x = 0; x < 12; ++x) {
-        EXPECT_EQ(s.Point(x, 2), x == 5 || x == 6 ? COLOR_BLANCO : 0x0000FFu) << x;
     }
 }
 

@@ -3,41 +3,19 @@
 #include <vector>
 
 #include "core/Plataforma.h"
-#include "motor_comun.h"
-#include "plataforma_prueba.h"
 #include "services/Mensajes.h"
 #include "services/Sonidos.h"
+#include "tablero_comun.h"
 
 using namespace PuzzGbl;
 
 namespace {
 
-std::vector<std::string> titulos;
-std::vector<int16_t> clips;
-int eventos = 0;
-bool respuesta = false;
-
-bool MensajeDePrueba(const std::string &titulo, const std::string &) {
-    titulos.push_back(titulo);
-    return respuesta;
-}
-void SonidoDePrueba(int16_t clip) {
-    clips.push_back(clip);
-}
-void EventosDePrueba() {
-    ++eventos;
-}
-
 class Servicios : public Motor {
   protected:
-    void SetUp() override {
-        titulos.clear();
-        clips.clear();
-        eventos = 0;
-        PonEscritorio({MensajeDePrueba, SonidoDePrueba, EventosDePrueba});
-    }
+    void SetUp() override { InstalaEscritorio(); }
     void TearDown() override {
-        PonEscritorio({});
+        QuitaEscritorio();
         Motor::TearDown();
     }
 };
@@ -56,14 +34,14 @@ TEST_F(Servicios, ElMensajeDejaLaRespuestaYSusMedidas) {
                           {1, false, VERDADERO, VERDADERO},
                           {1, true, FALSO, FALSO}};
     for (const Caso &c : casos) {
-        respuesta = c.respuesta;
+        escritorio.respuesta = c.respuesta;
         RespuestaMensaje = c.antes;
         MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 3, c.botones);
         EXPECT_EQ(RespuestaMensaje, c.despues);
         EXPECT_EQ(MensajeLineas, 3);
         EXPECT_EQ(MensajeBotones, c.botones);
     }
-    EXPECT_EQ(titulos.size(), 4u);
+    EXPECT_EQ(escritorio.mensajes.size(), 4u);
     // With no dialog installed, any message closes as if by a key: "Aceptar".
     PonEscritorio({});
     MuestraMensaje("TESELARI", "x", 1, 2);
@@ -74,12 +52,12 @@ TEST_F(Servicios, SinSonidoNoSuenaNiDejaPasarEventos) {
     Sonido = 1;
     ReproduceSonido(5);
     ReproduceSonido(13); // no such clip: silence, but still a re-entry point
-    EXPECT_EQ(clips, std::vector<int16_t>{5});
-    EXPECT_EQ(eventos, 2);
+    EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{5});
+    EXPECT_EQ(escritorio.eventos, 2);
     Sonido = 2;
     ReproduceSonido(5);
-    EXPECT_EQ(clips.size(), 1u);
-    EXPECT_EQ(eventos, 2);
+    EXPECT_EQ(escritorio.sonidos.size(), 1u);
+    EXPECT_EQ(escritorio.eventos, 2);
     PermiteEventos();
-    EXPECT_EQ(eventos, 3);
+    EXPECT_EQ(escritorio.eventos, 3);
 }

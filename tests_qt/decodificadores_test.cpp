@@ -18,6 +18,7 @@
 #include "qt/CargaImagenQt.h"
 #include "qt/Decodificadores.h"
 #include "raster/Superficie.h"
+#include "raster_referencia.h"
 
 namespace {
 
@@ -65,12 +66,7 @@ template <typename Caso> std::string NombreDeCaso(const testing::TestParamInfo<C
 }
 
 bool TodoBlanco(const Superficie &s) {
-    for (uint32_t p : s.Pixeles()) {
-        if (p != APixel(COLOR_BLANCO)) {
-            return false;
-        }
-    }
-    return true;
+    return referencia::Cuenta(s, COLOR_BLANCO) == s.Ancho() * s.Alto();
 }
 
 template <typename T> QByteArray Pon(QByteArray b, qsizetype desde, T valor) {

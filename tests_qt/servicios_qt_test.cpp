@@ -28,22 +28,6 @@ TEST(Cursores, LasCuatroManosDeLosRecursos) {
     EXPECT_EQ(CursorDePuntero(99, "MANOAZUL").shape(), Qt::ArrowCursor);
 }
 
-TEST(RotuladorQt, TamanosQueGuardanLasAlturasDeLinea) {
-    RotuladorQt r;
-    EXPECT_EQ(PixelesDePuntos(8.25), 11);
-    EXPECT_EQ(PixelesDePuntos(9.75), 12); // the messages, a pixel smaller
-    EXPECT_EQ(PixelesDePuntos(12), 16);
-    const Fuente normal;
-    const double alto = r.Alto(normal, "Ág");
-    EXPECT_GE(alto, 11.0);
-    EXPECT_LE(alto, 16.0);
-    EXPECT_GT(r.Ancho(normal, "MMMM"), r.Ancho(normal, "iiii"));
-    Fuente negrita = normal;
-    negrita.Negrita = true;
-    EXPECT_GT(r.Ancho(negrita, "MMMM"), r.Ancho(normal, "MMMM"));
-    EXPECT_DOUBLE_EQ(r.Ancho(normal, ""), 0.0);
-}
-
 TEST(RotuladorQt, DibujaEnLaSuperficieSoloDondeVaElTexto) {
     RotuladorQt r;
     PonServicio(&ServiciosPlataforma::Texto, &r);

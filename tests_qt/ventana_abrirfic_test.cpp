@@ -23,7 +23,6 @@
 #include "ventana_comun.h"
 
 using namespace PuzzGbl;
-using ventana_prueba::mensajes;
 using ventana_prueba::temas;
 
 namespace {
@@ -116,11 +115,11 @@ TEST_F(VentanaAbrirFicTest, UnClicEnUnFicheroLoEligeYOtroEnElMismoLoEvaluaDeNuev
     PulsaEntrada(file1, "b.bmp");
     EXPECT_EQ(NombreImagen, "b.bmp");
     EXPECT_EQ(file1->currentItem()->text(), QString("b.bmp"));
-    EXPECT_TRUE(mensajes.empty());
+    EXPECT_TRUE(escritorio.mensajes.empty());
     PulsaEntrada(file1, "c.bmp");
-    ASSERT_EQ(mensajes.size(), 1u);
+    ASSERT_EQ(escritorio.mensajes.size(), 1u);
     PulsaEntrada(file1, "c.bmp");
-    EXPECT_EQ(mensajes.size(), 2u);
+    EXPECT_EQ(escritorio.mensajes.size(), 2u);
 }
 
 TEST_F(VentanaAbrirFicTest, SoloSusDosControlesLoCierran) {
@@ -235,7 +234,7 @@ TEST_F(VentanaAbrirFicTest, LasTeclasEligenComoUnClicYElDobleClicAbreLaCarpeta) 
     file1->setFocus();
     QTest::keyClick(file1, Qt::Key_Down);
     EXPECT_TRUE(QTest::qWaitFor([] { return NombreImagen == "b.bmp"; }, 2000));
-    EXPECT_TRUE(mensajes.empty());
+    EXPECT_TRUE(escritorio.mensajes.empty());
 
     std::filesystem::create_directory(carpeta / "sub");
     Abre();

@@ -1,6 +1,7 @@
 // Shared set-up of the tests of the modal windows: the first instant's
 // state on the desktop's services, with the messages, sounds and help topics
-// recorded, and a form loaded and shown in its window.
+// recorded (the board tests' double), and a form loaded and shown in its
+// window.
 #pragma once
 
 #include <QTest>
@@ -10,33 +11,26 @@
 
 #include "core/Plataforma.h"
 #include "core/PuzzGbl.h"
-#include "plataforma_prueba.h"
 #include "qt/Arranque.h"
+#include "tablero_comun.h"
 
 namespace ventana_prueba {
 
-inline std::vector<std::string> mensajes; // their titles
-inline std::vector<int16_t> sonidos;
 inline std::vector<int16_t> temas;
 
+// The real services and event loop; messages, sounds and help recorded.
 inline void PreparaEscritorio() {
     RestauraValoresIniciales();
     InstalaServicios();
-    mensajes.clear();
-    sonidos.clear();
+    const auto eventos = Plataforma().Eventos;
+    InstalaEscritorio();
+    PonServicio(&ServiciosPlataforma::Eventos, eventos);
     temas.clear();
-    ServiciosPlataforma s;
-    s.Mensaje = [](const std::string &titulo, const std::string &) {
-        mensajes.push_back(titulo);
-        return true;
-    };
-    s.Sonido = [](int16_t clip) { sonidos.push_back(clip); };
-    PonEscritorio(s);
     PonServicio(&ServiciosPlataforma::MuestraAyuda, [](int16_t tema) { temas.push_back(tema); });
 }
 
 inline void RestauraEscritorio() {
-    PonEscritorio({});
+    QuitaEscritorio();
     PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
     RestauraValoresIniciales();
 }

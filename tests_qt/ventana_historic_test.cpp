@@ -11,7 +11,6 @@
 #include "ventana_comun.h"
 
 using namespace PuzzGbl;
-using ventana_prueba::sonidos;
 
 namespace {
 
@@ -96,7 +95,7 @@ TEST(VentanaHistoricModal, LaOrdenDiezLoAbreYLaFlechaLoCierra) {
     PulsaBoton(10);
     EXPECT_TRUE(visto);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_EQ(sonidos, std::vector<int16_t>{4});
+    EXPECT_EQ(escritorio.sonidos, std::vector<int16_t>{4});
     EXPECT_EQ(BotonPulsado[10], FALSO);
     ventana_prueba::RestauraEscritorio();
 }
