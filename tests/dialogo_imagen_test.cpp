@@ -65,25 +65,36 @@ INSTANTIATE_TEST_SUITE_P(Tamanos, ZoomDeFichero, ::testing::ValuesIn(casosZoom))
 
 // A picture too large to hold whole comes reduced from the loader, which
 // states its own size: the rules and the rebuild count with that size.
+struct CasoGrande {
+    int32_t w, h;
+    int16_t zoom;
+    int32_t origenW, origenH;
+};
+
+CasoGrande grande;
 CargaDeImagen CargadorReducido(const std::string &, Superficie &destino) {
-    PintaImagenGenerada(destino, 100, 70);
-    return {EstadoCarga::Leida, 10000, 7000};
+    PintaImagenGenerada(destino, grande.w / 10, grande.h / 10);
+    return {EstadoCarga::Leida, grande.w, grande.h};
 }
 
 TEST_F(Dialogo, ElZoomCuentaConElTamanoDelFichero) {
     PonServicio(&ServiciosPlataforma::CargaImagen, CargadorReducido);
-    AbreConImagen("g.bmp", 20, 20);
-    EXPECT_EQ(Zoom, 10);
-    EXPECT_EQ(ImagenValida, VERDADERO);
-    ASSERT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(mensajes[0].titulo, "Imagen fuera de límites");
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 1000);
-    EXPECT_EQ(teselari.Pic_Origin.Alto(), 700);
-    // A step up is checked against the file's size too, and taken back.
-    f->Pic_Zoom_MouseDown(1, 0, 120, 30);
-    EXPECT_EQ(Zoom, 10);
-    EXPECT_EQ(mensajes.size(), 2u);
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 1000);
+    for (const CasoGrande &c :
+         {CasoGrande{10000, 7000, 10, 1000, 700}, CasoGrande{9000, 9000, 5, 450, 450}}) {
+        grande = c;
+        AbreConImagen("g.bmp", 20, 20);
+        EXPECT_EQ(Zoom, c.zoom);
+        EXPECT_EQ(ImagenValida, VERDADERO);
+        ASSERT_EQ(mensajes.size(), 1u);
+        EXPECT_EQ(mensajes[0].titulo, "Imagen fuera de límites");
+        EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.origenW);
+        EXPECT_EQ(teselari.Pic_Origin.Alto(), c.origenH);
+        // A step up is checked against the file's size too, and taken back.
+        f->Pic_Zoom_MouseDown(1, 0, 120, 30);
+        EXPECT_EQ(Zoom, c.zoom);
+        EXPECT_EQ(mensajes.size(), 2u);
+        EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.origenW);
+    }
 }
 
 // Pieces with knobs want proportions within 0.476..2.1, stars 0.416..2.4;
