@@ -82,7 +82,7 @@ TEST_F(Dialogo, ElZoomCuentaConElTamanoDelFichero) {
     for (const CasoGrande &c :
          {CasoGrande{10000, 7000, 10, 1000, 700}, CasoGrande{9000, 9000, 5, 450, 450}}) {
         grande = c;
-        AbreConImagen("g.bmp", 20, 20);
+        AbreConImagen("g" + std::to_string(c.zoom) + ".bmp", 20, 20);
         EXPECT_EQ(Zoom, c.zoom);
         EXPECT_EQ(ImagenValida, VERDADERO);
         ASSERT_EQ(mensajes.size(), 1u);
