@@ -45,9 +45,6 @@ inline void MuestraModalDePrueba(FormAbrirFic &f) {
 inline void CargaTiraDePrueba(Superficie &tira) {
     tira.CajaLlena(0, 0, tira.Ancho() - 1, tira.Alto() - 1, 0x204060);
 }
-inline void AyudaDePrueba(int16_t tema) {
-    temasAyuda.push_back(tema);
-}
 
 } // namespace dialogo_prueba
 
@@ -61,7 +58,7 @@ class Dialogo : public Sesion {
         PonServicio(&ServiciosPlataforma::CargaImagen, CargaDePrueba);
         PonServicio(&ServiciosPlataforma::Texto, &rotulador);
         PonServicio(&ServiciosPlataforma::Dialogo, {MuestraModalDePrueba, CargaTiraDePrueba});
-        PonServicio(&ServiciosPlataforma::MuestraAyuda, AyudaDePrueba);
+        PonServicio(&ServiciosPlataforma::MuestraAyuda, [](int16_t t) { temasAyuda.push_back(t); });
         alMostrar = nullptr;
         temasAyuda.clear();
         fotos = raiz + "/fotos";
@@ -86,7 +83,6 @@ class Dialogo : public Sesion {
         PonServicio(&ServiciosPlataforma::Dialogo, {});
         PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
         PonServicio(&ServiciosPlataforma::Texto, nullptr);
-        dialogo_prueba::alMostrar = nullptr;
         Sesion::TearDown();
     }
 
@@ -102,6 +98,13 @@ class Dialogo : public Sesion {
         f = std::make_unique<FormAbrirFic>();
         f->Form_Load();
         return *f;
+    }
+
+    // The dialog opened on a new picture of w x h, picked by the player.
+    void AbreConImagen(const std::string &nombre, int32_t w, int32_t h) {
+        PonImagen(nombre, w, h);
+        Abre();
+        Elige(nombre);
     }
 
     // Picks the file of that name as the player would.

@@ -38,9 +38,7 @@ class ZoomDeFichero : public Dialogo, public ::testing::WithParamInterface<CasoZ
 
 TEST_P(ZoomDeFichero, LlevaLaImagenALosLimitesORechaza) {
     const CasoZoom &c = GetParam();
-    PonImagen("z.bmp", c.w, c.h);
-    Abre();
-    Elige("z.bmp");
+    AbreConImagen("z.bmp", c.w, c.h);
     EXPECT_EQ(Zoom, c.zoom);
     EXPECT_EQ(ImagenValida, c.valida ? VERDADERO : FALSO);
     EXPECT_EQ(NombreImagen, "z.bmp");
@@ -79,64 +77,49 @@ CargaDeImagen CargadorReducido(const std::string &, Superficie &destino) {
     return {EstadoCarga::Leida, grande.w, grande.h};
 }
 
-class ImagenGrande : public Dialogo, public ::testing::WithParamInterface<CasoGrande> {};
-
-TEST_P(ImagenGrande, ElZoomCuentaConElTamanoDelFichero) {
-    grande = GetParam();
-    PonImagen("g.bmp", 20, 20);
+TEST_F(Dialogo, ElZoomCuentaConElTamanoDelFichero) {
     PonServicio(&ServiciosPlataforma::CargaImagen, CargadorReducido);
-    Abre();
-    Elige("g.bmp");
-    EXPECT_EQ(Zoom, grande.zoom);
-    EXPECT_EQ(ImagenValida, VERDADERO);
-    ASSERT_EQ(sesion_prueba::mensajes.size(), 1u);
-    EXPECT_EQ(sesion_prueba::mensajes[0].titulo, "Imagen fuera de límites");
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), grande.origenW);
-    EXPECT_EQ(teselari.Pic_Origin.Alto(), grande.origenH);
-    // A step up is checked against the file's size too, and taken back.
-    f->Pic_Zoom_MouseDown(1, 0, 120, 30);
-    EXPECT_EQ(Zoom, grande.zoom);
-    EXPECT_EQ(sesion_prueba::mensajes.size(), 2u);
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), grande.origenW);
+    for (const CasoGrande &c :
+         {CasoGrande{10000, 7000, 10, 1000, 700}, CasoGrande{9000, 9000, 5, 450, 450}}) {
+        grande = c;
+        AbreConImagen("g" + std::to_string(c.zoom) + ".bmp", 20, 20);
+        EXPECT_EQ(Zoom, c.zoom);
+        EXPECT_EQ(ImagenValida, VERDADERO);
+        ASSERT_EQ(mensajes.size(), 1u);
+        EXPECT_EQ(mensajes[0].titulo, "Imagen fuera de límites");
+        EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.origenW);
+        EXPECT_EQ(teselari.Pic_Origin.Alto(), c.origenH);
+        // A step up is checked against the file's size too, and taken back.
+        f->Pic_Zoom_MouseDown(1, 0, 120, 30);
+        EXPECT_EQ(Zoom, c.zoom);
+        EXPECT_EQ(mensajes.size(), 2u);
+        EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.origenW);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tamanos, ImagenGrande,
-                         ::testing::Values(CasoGrande{10000, 7000, 10, 1000, 700},
-                                           CasoGrande{9000, 9000, 5, 450, 450}));
-
-// Pieces with knobs want proportions within 0.476..2.1, stars 0.416..2.4.
-struct CasoFormas {
-    int32_t w, h;
-    int16_t tipoAntes, tipoDespues;
-    bool conPestanas, estrellas;
-};
-
-class FormasPorProporcion : public Dialogo, public ::testing::WithParamInterface<CasoFormas> {};
-
-TEST_P(FormasPorProporcion, ApaganLasFormasQueNoCaben) {
-    const CasoFormas &c = GetParam();
-    PonImagen("p.bmp", c.w, c.h);
-    TipoPieza = c.tipoAntes;
-    PiezasDobles = c.tipoAntes > 1 ? 1 : 0;
-    Abre();
-    Elige("p.bmp");
-    EXPECT_EQ(TipoPieza, c.tipoDespues);
-    EXPECT_EQ(f->Pic_TipPuz[1].Enabled, c.conPestanas);
-    EXPECT_EQ(f->Pic_TipPuz[5].Enabled, c.estrellas);
-    EXPECT_EQ(f->Rec_MarcaTip.Left, f->Pic_TipPuz[c.tipoDespues].Left - 2);
-    EXPECT_EQ(f->Rec_MarcaTip.Top, f->Pic_TipPuz[c.tipoDespues].Top - 2);
-    // Going back to a square picture gives every shape back.
-    Elige("a.bmp");
-    EXPECT_TRUE(f->Pic_TipPuz[1].Enabled && f->Pic_TipPuz[5].Enabled);
+// Pieces with knobs want proportions within 0.476..2.1, stars 0.416..2.4;
+// going back to a square picture gives every shape back.
+TEST_F(Dialogo, LasFormasQueNoCabenSeApagan) {
+    const struct {
+        int32_t w, h;
+        int16_t tipoAntes, tipoDespues;
+        bool conPestanas, estrellas;
+    } casos[] = {{1000, 300, 1, 0, false, false}, {1000, 300, 5, 0, false, false},
+                 {700, 300, 1, 0, false, true},   {700, 300, 5, 5, false, true},
+                 {300, 700, 3, 3, false, true},   {630, 300, 1, 1, true, true}};
+    for (const auto &c : casos) {
+        TipoPieza = c.tipoAntes;
+        PiezasDobles = c.tipoAntes > 1 ? 1 : 0;
+        AbreConImagen("p.bmp", c.w, c.h);
+        EXPECT_EQ(TipoPieza, c.tipoDespues) << c.w << " " << c.tipoAntes;
+        EXPECT_EQ(f->Pic_TipPuz[1].Enabled, c.conPestanas) << c.w;
+        EXPECT_EQ(f->Pic_TipPuz[5].Enabled, c.estrellas) << c.w;
+        EXPECT_EQ(f->Rec_MarcaTip.Left, f->Pic_TipPuz[c.tipoDespues].Left - 2);
+        EXPECT_EQ(f->Rec_MarcaTip.Top, f->Pic_TipPuz[c.tipoDespues].Top - 2);
+        Elige("a.bmp");
+        EXPECT_TRUE(f->Pic_TipPuz[1].Enabled && f->Pic_TipPuz[5].Enabled);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Proporciones, FormasPorProporcion,
-                         ::testing::Values(CasoFormas{1000, 300, 1, 0, false, false},
-                                           CasoFormas{1000, 300, 5, 0, false, false},
-                                           CasoFormas{700, 300, 1, 0, false, true},
-                                           CasoFormas{700, 300, 5, 5, false, true},
-                                           CasoFormas{300, 700, 3, 3, false, true},
-                                           CasoFormas{630, 300, 1, 1, true, true}));
 
 // Setting the entry already chosen, or none again, is no click.
 TEST(ListaDialogo, ElMismoIndiceNoVuelveAAvisar) {
@@ -152,29 +135,15 @@ TEST(ListaDialogo, ElMismoIndiceNoVuelveAAvisar) {
     EXPECT_EQ(l.ListIndex(), 0);
 }
 
-TEST_F(Dialogo, ElMismoFicheroOtraVezDevuelveSuZoom) {
-    PonImagen("p.bmp", 200, 150);
-    Abre();
-    Elige("p.bmp");
-    ASSERT_EQ(Zoom, 165);
-    f->Pic_Zoom_MouseDown(1, 0, 120, 30);
-    ASSERT_EQ(Zoom, 170);
-    f->File1.Pulsa(f->File1.ListIndex());
-    EXPECT_EQ(Zoom, 165);
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 330);
-}
-
 // The saved game has no way to write a double quote or a line break: such a
 // file is refused, and the picture chosen before stays.
 TEST_F(Dialogo, UnNombreConComillasOSaltoNoSeToma) {
     for (const char *nombre : {"con\"comillas.bmp", "dos\nlineas.bmp"}) {
-        PonImagen(nombre, 400, 300);
-        Abre();
-        Elige(nombre);
-        ASSERT_EQ(sesion_prueba::mensajes.size(), 1u) << nombre;
-        EXPECT_EQ(sesion_prueba::mensajes[0].titulo, "Imagen no válida");
-        EXPECT_EQ(sesion_prueba::mensajes[0].lineas, 5);
-        EXPECT_EQ(sesion_prueba::sonidos.back(), 9);
+        AbreConImagen(nombre, 400, 300);
+        ASSERT_EQ(mensajes.size(), 1u) << nombre;
+        EXPECT_EQ(mensajes[0].titulo, "Imagen no válida");
+        EXPECT_EQ(mensajes[0].lineas, 5);
+        EXPECT_EQ(sonidos.back(), 9);
         EXPECT_EQ(FicheroImagen, fotos + "/a.bmp");
         EXPECT_EQ(ImagenValida, VERDADERO);
         EXPECT_EQ(teselari.Pic_Origin.Ancho(), 640);

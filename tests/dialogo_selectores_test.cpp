@@ -10,32 +10,25 @@ using sesion_prueba::sonidos;
 
 namespace {
 
-struct CasoRejillas {
-    int32_t w, h;
-    int16_t primera, ultima;
-};
-
-class Rejillas : public ::testing::TestWithParam<CasoRejillas> {};
-
 // The places of the arrows on a stepper panel.
 constexpr float SUBE_X = 120, SUBE_Y = 30, BAJA_X = 120, BAJA_Y = 46;
 
 } // namespace
 
-TEST_P(Rejillas, CeldasEntre24Y140SinHuecos) {
-    const CasoRejillas &c = GetParam();
-    const std::vector<int16_t> o = RejillasOfrecidas(c.w, c.h);
-    ASSERT_FALSE(o.empty());
-    EXPECT_EQ(o.front(), c.primera);
-    EXPECT_EQ(o.back(), c.ultima);
-    EXPECT_EQ(o.size(), static_cast<size_t>(c.ultima - c.primera + 1));
+TEST(Rejillas, CeldasEntre24Y140SinHuecos) {
+    const struct {
+        int32_t w, h;
+        int16_t primera, ultima;
+    } casos[] = {{320, 240, 3, 10},  {640, 480, 5, 20}, {800, 600, 6, 20},
+                 {1024, 768, 8, 20}, {608, 456, 5, 19}, {972, 729, 7, 20}};
+    for (const auto &c : casos) {
+        const std::vector<int16_t> o = RejillasOfrecidas(c.w, c.h);
+        ASSERT_FALSE(o.empty()) << c.w;
+        EXPECT_EQ(o.front(), c.primera) << c.w;
+        EXPECT_EQ(o.back(), c.ultima) << c.w;
+        EXPECT_EQ(o.size(), static_cast<size_t>(c.ultima - c.primera + 1)) << c.w;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Tamanos, Rejillas,
-    ::testing::Values(CasoRejillas{320, 240, 3, 10}, CasoRejillas{640, 480, 5, 20},
-                      CasoRejillas{800, 600, 6, 20}, CasoRejillas{1024, 768, 8, 20},
-                      CasoRejillas{608, 456, 5, 19}, CasoRejillas{972, 729, 7, 20}));
 
 TEST(RejillaCercana, LaMasProximaYEnEmpateLaMayor) {
     const std::vector<int16_t> huecos{9, 11};
@@ -82,45 +75,27 @@ TEST_F(Dialogo, LaListaSeAjustaALaImagenYConservaLaRejilla) {
     EXPECT_EQ(f->Lis_NroPiezas.ListCount(), 8);
 }
 
-struct CasoPaso {
-    int16_t desde;
-    bool sube;
-    int16_t hasta;
-};
-
-class PasoFactor : public Dialogo, public ::testing::WithParamInterface<CasoPaso> {};
-
 // Without an event loop a press takes one step.
-TEST_P(PasoFactor, CaeEnMultiploDe5YRespetaLosTopes) {
-    const CasoPaso &c = GetParam();
-    FactorPegado = c.desde;
-    Velocidad = 100;
-    Abre();
-    c.sube ? f->Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y)
-           : f->Pic_FactorPegado_MouseDown(1, 0, BAJA_X, BAJA_Y);
-    EXPECT_EQ(FactorPegado, c.hasta);
-    EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcFactorPegado), std::to_string(c.hasta) + "%");
-    EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 2), c.desde == c.hasta ? 0 : 1);
+TEST_F(Dialogo, ElFactorCaeEnMultiploDe5YRespetaLosTopes) {
+    const struct {
+        int16_t desde;
+        bool sube;
+        int16_t hasta;
+    } casos[] = {{52, true, 55}, {52, false, 45}, {50, true, 55},
+                 {3, false, 0},  {0, false, 0},   {98, true, 100}};
+    for (const auto &c : casos) {
+        FactorPegado = c.desde;
+        Abre();
+        f->Pic_FactorPegado_MouseDown(1, 0, c.sube ? SUBE_X : BAJA_X, c.sube ? SUBE_Y : BAJA_Y);
+        EXPECT_EQ(FactorPegado, c.hasta) << c.desde;
+        EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcFactorPegado), std::to_string(c.hasta) + "%");
+        EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 2), c.desde == c.hasta ? 0 : 1);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Valores, PasoFactor,
-                         ::testing::Values(CasoPaso{52, true, 55}, CasoPaso{52, false, 45},
-                                           CasoPaso{50, true, 55}, CasoPaso{3, false, 0},
-                                           CasoPaso{0, false, 0}, CasoPaso{98, true, 100}));
 
 namespace {
 FormAbrirFic *enPrueba = nullptr;
 int vueltas = 0;
-int vueltasHastaSoltar = 0;
-// The event loop of these tests: the button is released after some turns.
-void SueltaTrasVueltas() {
-    if (++vueltas == vueltasHastaSoltar) {
-        enPrueba->Pic_Velocidad_MouseUp(1, 0, SUBE_X, SUBE_Y);
-    }
-}
-void SaleDeLaFlecha() {
-    enPrueba->Pic_Velocidad_MouseMove(1, 0, 10, 10);
-}
 } // namespace
 
 TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
@@ -128,9 +103,12 @@ TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
     Abre();
     enPrueba = f.get();
     vueltas = 0;
-    vueltasHastaSoltar = 15;
-    PonEscritorio(
-        {sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba, SueltaTrasVueltas});
+    // The event loop of this test: the button is released after 15 turns.
+    PonEscritorio({sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba, [] {
+                       if (++vueltas == 15) {
+                           enPrueba->Pic_Velocidad_MouseUp(1, 0, SUBE_X, SUBE_Y);
+                       }
+                   }});
     // Velocidad is its own stepper: the repeat gets faster as it goes.
     f->Pic_Velocidad_MouseDown(1, 0, SUBE_X, SUBE_Y);
     EXPECT_EQ(vueltas, 15);
@@ -138,7 +116,8 @@ TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
     EXPECT_EQ(f->PasoVelocidad.Subiendo, FALSO);
     EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 2), 4);
     // Leaving the arrow ends the repeat after one step.
-    PonEscritorio({sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba, SaleDeLaFlecha});
+    PonEscritorio({sesion_prueba::MensajeDePrueba, sesion_prueba::SonidoDePrueba,
+                   [] { enPrueba->Pic_Velocidad_MouseMove(1, 0, 10, 10); }});
     f->Pic_Velocidad_MouseDown(1, 0, BAJA_X, BAJA_Y);
     EXPECT_EQ(Velocidad, 95);
     EXPECT_EQ(f->PasoVelocidad.Bajando, FALSO);
@@ -157,9 +136,7 @@ TEST_F(Dialogo, UnaPulsacionJuntoALaFlechaNoEsPaso) {
 }
 
 TEST_F(Dialogo, ElZoomQueSaleDeLosLimitesVuelveAtrasConMensaje) {
-    PonImagen("g.bmp", 1000, 700);
-    Abre();
-    Elige("g.bmp");
+    AbreConImagen("g.bmp", 1000, 700);
     std::vector<int16_t> vistos;
     f->AlRefrescar = [&vistos] { vistos.push_back(Zoom); };
     mensajes.clear();
@@ -174,63 +151,51 @@ TEST_F(Dialogo, ElZoomQueSaleDeLosLimitesVuelveAtrasConMensaje) {
     EXPECT_EQ(teselari.Pic_Origin.Ancho(), 1000);
 }
 
-struct CasoZoomLista {
-    int32_t w, h;
-    int16_t lado; // the grid before the step down to 95
-    int16_t primera, ultima, ladoDespues;
-};
-
-class ZoomYLista : public Dialogo, public ::testing::WithParamInterface<CasoZoomLista> {};
-
-TEST_P(ZoomYLista, AlSoltarSeReconstruyenImagenYLista) {
-    const CasoZoomLista &c = GetParam();
-    PonImagen("z.bmp", c.w, c.h);
-    PiezasPorLado = c.lado;
-    Abre();
-    Elige("z.bmp");
-    sonidos.clear();
-    f->Pic_Zoom_MouseDown(1, 0, BAJA_X, BAJA_Y);
-    EXPECT_EQ(Zoom, 95);
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.w * 95 / 100);
-    EXPECT_EQ(f->Lis_NroPiezas.List(0), CadenaFija(TextoNroPiezas[c.primera], 14));
-    EXPECT_EQ(f->Lis_NroPiezas.ListCount(), c.ultima - c.primera + 1);
-    EXPECT_EQ(PiezasPorLado, c.ladoDespues);
-    // The row is clicked again, and heard: the zoom is not a file click.
-    EXPECT_EQ(sonidos.back(), 12);
+TEST_F(Dialogo, AlSoltarElZoomSeReconstruyenImagenYLista) {
+    const struct {
+        int32_t w, h;
+        int16_t lado; // the grid before the step down to 95
+        int16_t primera, ultima, ladoDespues;
+    } casos[] = {{640, 480, 20, 5, 19, 19}, {1024, 768, 8, 7, 20, 8}};
+    for (const auto &c : casos) {
+        PiezasPorLado = c.lado;
+        Zoom = 100;
+        AbreConImagen("z.bmp", c.w, c.h);
+        sonidos.clear();
+        f->Pic_Zoom_MouseDown(1, 0, BAJA_X, BAJA_Y);
+        EXPECT_EQ(Zoom, 95);
+        EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.w * 95 / 100);
+        EXPECT_EQ(f->Lis_NroPiezas.List(0), CadenaFija(TextoNroPiezas[c.primera], 14));
+        EXPECT_EQ(f->Lis_NroPiezas.ListCount(), c.ultima - c.primera + 1);
+        EXPECT_EQ(PiezasPorLado, c.ladoDespues);
+        // The row is clicked again, and heard: the zoom is not a file click.
+        EXPECT_EQ(sonidos.back(), 12);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Pasos, ZoomYLista,
-                         ::testing::Values(CasoZoomLista{640, 480, 20, 5, 19, 19},
-                                           CasoZoomLista{1024, 768, 8, 7, 20, 8}));
 
 // K = Int((100 - FactorPegado) x 26 / 100): the piece walks K + 15 steps,
 // blinks there six times, and jumps home.
-class PruebaAtraccion : public Dialogo,
-                        public ::testing::WithParamInterface<std::pair<int16_t, int32_t>> {};
-
-TEST_P(PruebaAtraccion, ParpadeaDondeAtraeriaElFactor) {
-    const auto [factor, k] = GetParam();
-    FactorPegado = factor;
-    Abre();
-    std::vector<std::pair<int32_t, int32_t>> ocultas;
-    f->AlRefrescar = [this, &ocultas] {
-        if (!f->Pic_PruebaPeq.Visible) {
-            ocultas.emplace_back(f->Pic_PruebaPeq.Left, f->Pic_PruebaPeq.Top);
-        }
-    };
-    f->Bot_Prueba_Click();
-    ASSERT_EQ(ocultas.size(), 6u);
-    EXPECT_EQ(ocultas.front(), std::make_pair(56 + k + 15, 45 - k - 15));
-    EXPECT_EQ(ocultas.back(), ocultas.front());
-    EXPECT_EQ(f->Pic_PruebaPeq.Left, 97);
-    EXPECT_EQ(f->Pic_PruebaPeq.Top, 4);
-    EXPECT_TRUE(f->Pic_PruebaPeq.Visible);
-    EXPECT_EQ(FactorPegado, factor);
+TEST_F(Dialogo, LaPruebaParpadeaDondeAtraeriaElFactor) {
+    for (const auto &[factor, k] :
+         {std::pair<int16_t, int32_t>{0, 26}, {50, 13}, {55, 11}, {100, 0}}) {
+        FactorPegado = factor;
+        Abre();
+        std::vector<std::pair<int32_t, int32_t>> ocultas;
+        f->AlRefrescar = [this, &ocultas] {
+            if (!f->Pic_PruebaPeq.Visible) {
+                ocultas.emplace_back(f->Pic_PruebaPeq.Left, f->Pic_PruebaPeq.Top);
+            }
+        };
+        f->Bot_Prueba_Click();
+        ASSERT_EQ(ocultas.size(), 6u);
+        EXPECT_EQ(ocultas.front(), std::make_pair(56 + k + 15, 45 - k - 15));
+        EXPECT_EQ(ocultas.back(), ocultas.front());
+        EXPECT_EQ(f->Pic_PruebaPeq.Left, 97);
+        EXPECT_EQ(f->Pic_PruebaPeq.Top, 4);
+        EXPECT_TRUE(f->Pic_PruebaPeq.Visible);
+        EXPECT_EQ(FactorPegado, factor);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Factores, PruebaAtraccion,
-                         ::testing::Values(std::pair<int16_t, int32_t>{0, 26}, std::pair{50, 13},
-                                           std::pair{55, 11}, std::pair{100, 0}));
 
 // The key of each selector turns its value 1, 2, 1; a press beside it does
 // nothing. Sonido's own key is never heard.

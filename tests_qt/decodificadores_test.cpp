@@ -69,6 +69,28 @@ bool TodoBlanco(const Superficie &s) {
     return referencia::Cuenta(s, COLOR_BLANCO) == s.Ancho() * s.Alto();
 }
 
+// The four quarters red, green, blue and white, at their centres and, with
+// `bordes`, also at the corners and beside the middle.
+void CompruebaCuartos(const Superficie &s, int tolerancia, bool bordes) {
+    const int w = s.Ancho(), h = s.Alto();
+    const struct {
+        int x, y;
+        Color color;
+    } puntos[] = {{w / 4, h / 4, RGB(255, 0, 0)},
+                  {3 * w / 4, h / 4, RGB(0, 255, 0)},
+                  {w / 4, 3 * h / 4, RGB(0, 0, 255)},
+                  {3 * w / 4, 3 * h / 4, COLOR_BLANCO},
+                  {1, 1, RGB(255, 0, 0)},
+                  {w - 2, h - 2, COLOR_BLANCO},
+                  {w / 2 - 3, h / 2 + 2, RGB(0, 0, 255)},
+                  {w / 2 + 2, h / 2 - 3, RGB(0, 255, 0)}};
+    for (int i = 0; i < (bordes ? 8 : 4); ++i) {
+        const auto &p = puntos[i];
+        EXPECT_TRUE(ParecidoA(s.Point(p.x, p.y), p.color, tolerancia))
+            << "at (" << p.x << ", " << p.y << "): " << std::hex << s.Point(p.x, p.y);
+    }
+}
+
 template <typename T> QByteArray Pon(QByteArray b, qsizetype desde, T valor) {
     T v = valor;
     std::memcpy(b.data() + desde, &v, sizeof v);
@@ -112,22 +134,7 @@ TEST_P(MuestraBuena, SeLeeConSuTamanoYSusCuatroCuartos) {
     EXPECT_EQ(carga.Alto, m.alto);
     ASSERT_EQ(s.Ancho(), m.ancho);
     ASSERT_EQ(s.Alto(), m.alto);
-    const int w = m.ancho, h = m.alto;
-    const struct {
-        int x, y;
-        Color color;
-    } puntos[] = {{w / 4, h / 4, RGB(255, 0, 0)},
-                  {3 * w / 4, h / 4, RGB(0, 255, 0)},
-                  {w / 4, 3 * h / 4, RGB(0, 0, 255)},
-                  {3 * w / 4, 3 * h / 4, COLOR_BLANCO},
-                  {1, 1, RGB(255, 0, 0)},
-                  {w - 2, h - 2, COLOR_BLANCO},
-                  {w / 2 - 3, h / 2 + 2, RGB(0, 0, 255)},
-                  {w / 2 + 2, h / 2 - 3, RGB(0, 255, 0)}};
-    for (const auto &p : puntos) {
-        EXPECT_TRUE(ParecidoA(s.Point(p.x, p.y), p.color, m.tolerancia))
-            << m.nombre << " at (" << p.x << ", " << p.y << "): " << std::hex << s.Point(p.x, p.y);
-    }
+    CompruebaCuartos(s, m.tolerancia, true);
 }
 
 // The name doesn't choose the decoder: the content does.
@@ -343,12 +350,7 @@ TEST(ImagenGrande, SeLeeReducidaYDiceSuTamano) {
         EXPECT_TRUE(s.Ancho() >= 1024 || s.Alto() >= 768) << c.nombre;
         EXPECT_LE(s.Ancho(), 1025);
         EXPECT_LE(s.Alto(), 769);
-        const int w = s.Ancho(), h = s.Alto();
-        const Color esperados[] = {RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255), COLOR_BLANCO};
-        for (int i = 0; i < 4; ++i) {
-            const Color leido = s.Point(i % 2 == 0 ? w / 4 : 3 * w / 4, i < 2 ? h / 4 : 3 * h / 4);
-            EXPECT_TRUE(ParecidoA(leido, esperados[i], 40)) << c.nombre << " " << i;
-        }
+        CompruebaCuartos(s, 40, false);
     }
 }
 
