@@ -2,7 +2,6 @@
 // lifted piece.
 #include <algorithm>
 #include <numeric>
-#include <sstream>
 
 #include "board/Arrastre.h"
 #include "board/Barajar.h"
@@ -83,12 +82,9 @@ TEST_P(Reparto, InvariantesDelBarajado) {
     EXPECT_TRUE(MismosPixeles(repintado, f.Pic_Trabajo));
 }
 
-INSTANTIATE_TEST_SUITE_P(Juegos, Reparto, ::testing::ValuesIn(JUEGOS),
-                         [](const ::testing::TestParamInfo<CasoJuego> &i) {
-                             std::ostringstream nombre;
-                             nombre << 't' << i.param.tipo << "_n" << i.param.n;
-                             return nombre.str();
-                         });
+INSTANTIATE_TEST_SUITE_P(Juegos, Reparto, ::testing::ValuesIn(JUEGOS), [](const auto &i) {
+    return "t" + std::to_string(i.param.tipo) + "_n" + std::to_string(i.param.n);
+});
 
 TEST_F(Motor, LevantarUnaPiezaSobreElMarcoDejaElMarcoEntero) {
     // Pieces dropped over the frame's corner, its right line and its bottom

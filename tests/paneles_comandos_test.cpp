@@ -24,12 +24,6 @@ class Comandos : public Motor {
         PintaTiraPrueba(teselari.Pic_BmpBoton);
         PreparaBitmap();
     }
-    // The board on the screen as its twin holds it.
-    static void IgualaTrabajo() {
-        FormTeselari &f = teselari;
-        BitBlt(f.Pic_Trabajo, 0, 0, f.Pic_Imagen.Ancho(), f.Pic_Imagen.Alto(), f.Pic_Imagen, 0, 0,
-               SRCCOPY);
-    }
 };
 
 TEST_F(Comandos, ElModeloAparecePorAbajoYDesaparece) {
@@ -69,7 +63,9 @@ TEST_F(Comandos, LasPiezasOcultasSubenDesdeAbajo) {
     for (int16_t i = NroPiezas; i >= 1; --i) {
         MuestraPieza(teselari.Pic_Imagen, i);
     }
-    IgualaTrabajo();
+    // The screen as its twin holds it.
+    const Superficie &imagen = teselari.Pic_Imagen;
+    BitBlt(teselari.Pic_Trabajo, 0, 0, imagen.Ancho(), imagen.Alto(), imagen, 0, 0, SRCCOPY);
     MuestraPiezasOcultas();
     // The loose pieces on top in their earlier order, the placed ones below.
     std::vector<int16_t> esperado = sueltas;

@@ -14,33 +14,31 @@ const char TEXTO_53[] =
     "No se encuentra el fichero de inicialización con los datos de la última "
     "sesión. Cargue desde el disco una imagen que sirva de fondo para el puzzle.";
 
+// Each setting: its value on a first run, and one away from it.
+struct Ajuste {
+    int16_t *valor;
+    int16_t primeraVez, cambiado;
+};
+
+const Ajuste AJUSTES[] = {{&FactorPegado, 50, 5}, {&ColorFondo, 3, 0}, {&Velocidad, 50, 95},
+                          {&Cronometro, 2, 1},    {&Sonido, 1, 2},     {&Pistas, 1, 2},
+                          {&PiezasPorLado, 8, 4}, {&TipoPieza, 1, 3},  {&PiezasDobles, 0, 1},
+                          {&Zoom, 100, 200}};
+
 // The settings of a first run, whatever stood before.
 void EsperaAjustesDePrimeraVez() {
-    EXPECT_EQ(FactorPegado, 50);
-    EXPECT_EQ(ColorFondo, 3);
-    EXPECT_EQ(Velocidad, 50);
-    EXPECT_EQ(Cronometro, 2);
-    EXPECT_EQ(Sonido, 1);
-    EXPECT_EQ(Pistas, 1);
-    EXPECT_EQ(PiezasPorLado, 8);
-    EXPECT_EQ(TipoPieza, 1);
-    EXPECT_EQ(PiezasDobles, 0);
-    EXPECT_EQ(Zoom, 100);
+    for (const Ajuste &a : AJUSTES) {
+        EXPECT_EQ(*a.valor, a.primeraVez) << a.cambiado;
+    }
     for (int i = 1; i <= 11; ++i) {
         EXPECT_TRUE(BotonEnSiempre[i]) << i;
     }
 }
 
 void CambiaAjustes() {
-    FactorPegado = 5;
-    ColorFondo = 0;
-    Velocidad = 95;
-    Cronometro = 1;
-    Sonido = 2;
-    Pistas = 2;
-    PiezasPorLado = 4;
-    TipoPieza = 3;
-    Zoom = 200;
+    for (const Ajuste &a : AJUSTES) {
+        *a.valor = a.cambiado;
+    }
     BotonEnSiempre[4] = false;
 }
 

@@ -30,6 +30,16 @@ void EmpiezaOrdenar() {
     OrdenarPiezas();
 }
 
+// Piece k stands at the place `sitios` gives the k-th piece from the bottom
+// of the pile.
+template <size_t N> void EsperaSitios(const Punto (&sitios)[N]) {
+    for (int16_t k = 1; k <= NroPiezas; ++k) {
+        EXPECT_EQ(Piezas[k], (Pieza{sitios[N - k].first, sitios[N - k].second, Piezas[k].XCorrecta,
+                                    Piezas[k].YCorrecta}))
+            << k;
+    }
+}
+
 void EmpiezaResolver() {
     ModoResolver = VERDADERO;
     BotonPulsado[9] = VERDADERO;
@@ -52,11 +62,7 @@ TEST_F(Tablero, OrdenarLlenaLaColumnaYLaFilaDeCadaAnillo) {
     EmpiezaOrdenar();
     // The bottom of the pile first: piece 25, then 24... and the pile ends in
     // its old order.
-    for (int16_t k = 1; k <= NroPiezas; ++k) {
-        const Punto &s = sitios[NroPiezas - k];
-        EXPECT_EQ(Piezas[k].X, s.first) << k;
-        EXPECT_EQ(Piezas[k].Y, s.second) << k;
-    }
+    EsperaSitios(sitios);
     std::vector<int16_t> enOrden(NroPiezas);
     std::iota(enOrden.begin(), enOrden.end(), int16_t{1});
     EXPECT_EQ(Pila(), enOrden);
@@ -80,11 +86,7 @@ TEST_F(Tablero, OrdenarConPiezasAnchasMideElEspacioPorLaAltura) {
     const Punto sitios[] = {{547, 0},  {547, 75}, {547, 150}, {235, 150}, {235, 0},
                             {235, 75}, {-77, 0},  {-389, 0},  {-701, 0}};
     EmpiezaOrdenar();
-    for (int16_t k = 1; k <= NroPiezas; ++k) {
-        const Punto &s = sitios[NroPiezas - k];
-        EXPECT_EQ(Piezas[k].X, s.first) << k;
-        EXPECT_EQ(Piezas[k].Y, s.second) << k;
-    }
+    EsperaSitios(sitios);
 }
 
 TEST_F(Tablero, OrdenarDejaLasColocadasYLasHundeEnLaPila) {

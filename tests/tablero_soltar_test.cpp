@@ -5,7 +5,6 @@
 #include "board/Render.h"
 #include "core/Cronometro.h"
 #include "tablero_comun.h"
-#include <sstream>
 
 using namespace PuzzGbl;
 
@@ -67,11 +66,7 @@ TEST_P(Atraccion, LaPiezaVaASuSitioDentroDelAlcance) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Factores, Atraccion, ::testing::ValuesIn(ALCANCES),
-                         [](const ::testing::TestParamInfo<Alcance> &i) {
-                             std::ostringstream nombre;
-                             nombre << 'f' << i.param.factor;
-                             return nombre.str();
-                         });
+                         [](const auto &i) { return "f" + std::to_string(i.param.factor); });
 
 TEST_F(Tablero, LosLimitesDeLaVistaRetienenLaPiezaLibre) {
     PreparaTablero(8, 0, 640, 480); // cells of 80 x 60, piece 64 at (0, 0)
