@@ -1,11 +1,13 @@
-// VistaSuperficie: the widget shows the surface's own pixels, repaints at
-// once what a drawing operation touched, and turns mouse events into the
-// game's button numbers (1 left, 2 right, 4 middle), key flags (1 shift, 2
-// control, 4 alt) and surface coordinates.
+// VistaSuperficie: the widget repaints at once what a drawing operation
+// touched, and no more, grows with its surface, and turns mouse events into
+// the game's button numbers (1 left, 2 right, 4 middle), key flags (1 shift,
+// 2 control, 4 alt) and surface coordinates. That it shows the surface's own
+// pixels where the state puts it is seen through the screen by the game's
+// window tests.
 #include <QEvent>
-#include <QImage>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <tuple>
 #include <vector>
 
 #include "qt/VistaSuperficie.h"
@@ -26,55 +28,9 @@ class ContadorPintadas : public QObject {
     }
 };
 
-struct Llamada {
-    int16_t boton, shift;
-    float x, y;
-};
-
-CuadroImagen Dibujada(int w, int h) {
-    CuadroImagen s(w, h, 0x336699);
-    s.Line(0, 0, w, h, 0x0000FF);
-    s.CajaLlena(5, 5, 15, 12, 0x00FF00);
-    s.PSet(w - 1, h - 1, 0xABCDEF);
-    return s;
-}
-
 } // namespace
 
-TEST(VistaSuperficie, MuestraExactamenteLosPixelesDeLaSuperficie) {
-    CuadroImagen s = Dibujada(37, 23);
-    VistaSuperficie vista(s);
-    EXPECT_EQ(vista.size(), QSize(37, 23));
-    const QImage imagen = vista.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    ASSERT_EQ(imagen.size(), QSize(37, 23));
-    for (int y = 0; y < 23; ++y) {
-        for (int x = 0; x < 37; ++x) {
-            ASSERT_EQ(imagen.pixel(x, y), s.Fila(y)[x]) << x << "," << y;
-        }
-    }
-}
-
-TEST(VistaSuperficie, ReflejaLugarTamanoVisibilidadYPista) {
-    QWidget padre;
-    padre.resize(300, 200);
-    CuadroImagen s(20, 10);
-    s.Left = 7;
-    s.Top = -3;
-    VistaSuperficie vista(s, &padre);
-    EXPECT_EQ(vista.geometry(), QRect(7, -3, 20, 10));
-    s.Move(40, 50, 64, 32);
-    s.Visible = false;
-    s.ToolTipText = "Ayuda";
-    vista.Sincroniza();
-    EXPECT_EQ(vista.geometry(), QRect(40, 50, 64, 32));
-    EXPECT_TRUE(vista.isHidden());
-    EXPECT_EQ(vista.toolTip(), QStringLiteral("Ayuda"));
-    s.Visible = true;
-    vista.Sincroniza();
-    EXPECT_FALSE(vista.isHidden());
-}
-
-TEST(VistaSuperficie, RepintaEnElActoLoQueTocaUnDibujo) {
+TEST(VistaSuperficie, RepintaEnElActoLoQueTocaUnDibujoYCreceConLaSuperficie) {
     CuadroImagen s(100, 80, 0xFFFFFF);
     VistaSuperficie vista(s);
     vista.show();
@@ -93,15 +49,7 @@ TEST(VistaSuperficie, RepintaEnElActoLoQueTocaUnDibujo) {
     vista.hide();
     s.PSet(1, 1, 0x00FF00);
     EXPECT_EQ(contador.zonas.size(), 2u);
-}
-
-TEST(VistaSuperficie, UnaSuperficieAgrandadaPorLaLogicaSeVeEntera) {
-    QWidget padre;
-    padre.resize(400, 300);
-    CuadroImagen s(10, 10);
-    VistaSuperficie vista(s, &padre);
-    padre.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&padre));
+    // A surface the logic makes larger is seen whole.
     s.CambiaTamano(200, 100);
     s.CajaLlena(150, 50, 160, 60, 0x0000FF);
     EXPECT_EQ(vista.size(), QSize(200, 100));
@@ -112,16 +60,17 @@ TEST(VistaSuperficie, ElRatonLlegaConBotonesYCoordenadasDeLaSuperficie) {
     VistaSuperficie vista(s);
     vista.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&vista));
-    std::vector<Llamada> pulsa, mueve, suelta;
-    vista.AlPulsar = [&](int16_t b, int16_t sh, float x, float y) {
-        pulsa.push_back({b, sh, x, y});
+    // Each call as (kind, button, shift, x, y): p press, m move, s release.
+    using L = std::tuple<char, int16_t, int16_t, float, float>;
+    std::vector<L> llamadas;
+    const auto apunta = [&](char tipo) {
+        return [&llamadas, tipo](int16_t b, int16_t sh, float x, float y) {
+            llamadas.emplace_back(tipo, b, sh, x, y);
+        };
     };
-    vista.AlMover = [&](int16_t b, int16_t sh, float x, float y) {
-        mueve.push_back({b, sh, x, y});
-    };
-    vista.AlSoltar = [&](int16_t b, int16_t sh, float x, float y) {
-        suelta.push_back({b, sh, x, y});
-    };
+    vista.AlPulsar = apunta('p');
+    vista.AlMover = apunta('m');
+    vista.AlSoltar = apunta('s');
 
     QTest::mousePress(&vista, Qt::LeftButton, Qt::ShiftModifier, QPoint(12, 34));
     QTest::mouseMove(&vista, QPoint(50, 60));
@@ -129,23 +78,12 @@ TEST(VistaSuperficie, ElRatonLlegaConBotonesYCoordenadasDeLaSuperficie) {
     QTest::mousePress(&vista, Qt::RightButton, Qt::ControlModifier, QPoint(100, 101));
     QTest::mouseRelease(&vista, Qt::RightButton, Qt::NoModifier, QPoint(100, 101));
     QTest::mousePress(&vista, Qt::MiddleButton, Qt::AltModifier | Qt::ShiftModifier, QPoint(3, 4));
-    QTest::mouseRelease(&vista, Qt::MiddleButton, Qt::NoModifier, QPoint(3, 4));
 
-    ASSERT_EQ(pulsa.size(), 3u);
-    EXPECT_EQ(pulsa[0].boton, 1);
-    EXPECT_EQ(pulsa[0].shift, 1);
-    EXPECT_FLOAT_EQ(pulsa[0].x, 12.0f);
-    EXPECT_FLOAT_EQ(pulsa[0].y, 34.0f);
-    EXPECT_EQ(pulsa[1].boton, 2);
-    EXPECT_EQ(pulsa[1].shift, 2);
-    EXPECT_EQ(pulsa[2].boton, 4);
-    EXPECT_EQ(pulsa[2].shift, 5);
-    ASSERT_FALSE(mueve.empty());
-    EXPECT_EQ(mueve.back().boton, 1); // the left button is held
-    EXPECT_FLOAT_EQ(mueve.back().x, 50.0f);
-    EXPECT_FLOAT_EQ(mueve.back().y, 60.0f);
-    ASSERT_EQ(suelta.size(), 3u);
-    EXPECT_EQ(suelta[0].boton, 1);
-    EXPECT_FLOAT_EQ(suelta[0].x, 51.0f);
-    EXPECT_EQ(suelta[1].boton, 2);
+    // The held left button goes with the move.
+    EXPECT_EQ(llamadas, (std::vector<L>{{'p', 1, 1, 12.0f, 34.0f},
+                                        {'m', 1, 0, 50.0f, 60.0f},
+                                        {'s', 1, 0, 51.0f, 61.0f},
+                                        {'p', 2, 2, 100.0f, 101.0f},
+                                        {'s', 2, 0, 100.0f, 101.0f},
+                                        {'p', 4, 5, 3.0f, 4.0f}}));
 }

@@ -167,13 +167,9 @@ TEST(Cursores, ManosConLaPuntaDelIndiceEnElPuntoActivo) {
 // --- the sounds ---
 
 TEST(Sonidos, CadaClipEsUnWaveConSuMedida) {
-    const struct {
-        int frecuencia, bytes;
-    } tabla[] = {{11025, 2280}, {11025, 1008}, {11025, 2541}, {11025, 1379},
-                 {11025, 1630}, {11025, 831},  {11025, 631},  {11025, 57705},
-                 {8000, 15223}, {11025, 343},  {11025, 343},  {11025, 343}};
     for (int clip = 1; clip <= NumeroClips; ++clip) {
         SCOPED_TRACE(clip);
+        const MedidaClip medida = MedidaDeClip(clip);
         const QByteArray w = LeeBytes(QString("sonidos/%1.wav").arg(clip));
         ASSERT_GE(w.size(), 44);
         const auto u16 = [&](int o) { return qFromLittleEndian<quint16>(w.constData() + o); };
@@ -185,13 +181,13 @@ TEST(Sonidos, CadaClipEsUnWaveConSuMedida) {
         EXPECT_EQ(u32(16), 16u);
         EXPECT_EQ(u16(20), 1); // PCM
         EXPECT_EQ(u16(22), 1); // mono
-        EXPECT_EQ(u32(24), static_cast<quint32>(tabla[clip - 1].frecuencia));
-        EXPECT_EQ(u32(28), static_cast<quint32>(tabla[clip - 1].frecuencia));
+        EXPECT_EQ(u32(24), static_cast<quint32>(medida.Frecuencia));
+        EXPECT_EQ(u32(28), static_cast<quint32>(medida.Frecuencia));
         EXPECT_EQ(u16(32), 1);
         EXPECT_EQ(u16(34), 8);
         EXPECT_EQ(w.mid(36, 4), "data");
         const int n = static_cast<int>(u32(40));
-        EXPECT_EQ(n, tabla[clip - 1].bytes);
+        EXPECT_EQ(n, medida.Bytes);
         EXPECT_EQ(w.size(), 44 + n + n % 2);
         // No clipping, silence at both ends, and a real sound in between.
         int pico = 0;
