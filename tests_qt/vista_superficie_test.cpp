@@ -78,6 +78,7 @@ TEST(VistaSuperficie, ElRatonLlegaConBotonesYCoordenadasDeLaSuperficie) {
     QTest::mousePress(&vista, Qt::RightButton, Qt::ControlModifier, QPoint(100, 101));
     QTest::mouseRelease(&vista, Qt::RightButton, Qt::NoModifier, QPoint(100, 101));
     QTest::mousePress(&vista, Qt::MiddleButton, Qt::AltModifier | Qt::ShiftModifier, QPoint(3, 4));
+    QTest::mouseRelease(&vista, Qt::MiddleButton, Qt::NoModifier, QPoint(3, 4));
 
     // The held left button goes with the move.
     EXPECT_EQ(llamadas, (std::vector<L>{{'p', 1, 1, 12.0f, 34.0f},
@@ -85,5 +86,6 @@ TEST(VistaSuperficie, ElRatonLlegaConBotonesYCoordenadasDeLaSuperficie) {
                                         {'s', 1, 0, 51.0f, 61.0f},
                                         {'p', 2, 2, 100.0f, 101.0f},
                                         {'s', 2, 0, 100.0f, 101.0f},
-                                        {'p', 4, 5, 3.0f, 4.0f}}));
+                                        {'p', 4, 5, 3.0f, 4.0f},
+                                        {'s', 4, 0, 3.0f, 4.0f}}));
 }
