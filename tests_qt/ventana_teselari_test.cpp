@@ -2,56 +2,37 @@
 // the scroll bars that move the work area, and the hourglass of the whole
 // screen. The mouse on a scrolled work area is the drag of juego_raton_test;
 // the panels over the work area are paneles_pantalla_test.
-#include <QApplication>
-#include <QScrollBar>
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include "core/PuzzGbl.h"
-#include "qt/VentanaTeselari.h"
-#include "qt/VistaSuperficie.h"
+#include "juego_qt_comun.h"
 
 using namespace PuzzGbl;
 
 namespace {
 
-class VentanaTest : public testing::Test {
+class VentanaTest : public JuegoQt {
   protected:
-    void SetUp() override {
-        RestauraValoresIniciales();
-        FormTeselari &f = teselari;
-        f.Pic_Trabajo.Move(0, 0, 1500, 1000);
-        f.Pic_Trabajo.Visible = true;
-        f.BarraHor.Left = 0;
-        f.BarraHor.Top = 752;
-        f.BarraHor.Width = 1008;
-        f.BarraHor.LargeChange = 500;
-        f.BarraHor.PonMax(1500 - 1008);
-        f.BarraVer.Left = 1008;
-        f.BarraVer.Top = 0;
-        f.BarraVer.Height = 752;
-        f.BarraVer.PonMax(1000 - 752);
-        ventana = std::make_unique<VentanaTeselari>();
-        ventana->MuestraPantallaCompleta();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(ventana.get()));
-    }
-    void TearDown() override {
-        ventana.reset();
-        RestauraValoresIniciales();
-    }
-    std::unique_ptr<VentanaTeselari> ventana;
+    // A work area larger than the view: both bars have a range.
+    void SetUp() override { Prepara(8, 0, 960, 720); }
 };
+
+QRect Lugar(const ControlConTamano &c) {
+    return QRect(c.Left, c.Top, c.Width, c.Height);
+}
 
 } // namespace
 
-TEST_F(VentanaTest, CubreLaPantallaSinMarco) {
-    EXPECT_EQ(ventana->geometry(), QRect(0, 0, 1024, 768));
+TEST_F(VentanaTest, CubreLaPantallaSinMarcoComoLoDejaElEstado) {
+    EXPECT_EQ(ventana->geometry(), QGuiApplication::primaryScreen()->geometry());
     EXPECT_TRUE(ventana->windowFlags() & Qt::FramelessWindowHint);
-    EXPECT_EQ(ventana->Pic_Trabajo->geometry(), QRect(0, 0, 1500, 1000));
-    EXPECT_EQ(ventana->BarraHor->geometry(), QRect(0, 752, 1008, 16));
-    EXPECT_EQ(ventana->BarraHor->maximum(), 492);
-    EXPECT_EQ(ventana->BarraHor->pageStep(), 500);
-    EXPECT_EQ(ventana->BarraVer->maximum(), 248);
+    const CuadroImagen &trabajo = teselari.Pic_Trabajo;
+    EXPECT_EQ(ventana->Pic_Trabajo->geometry(),
+              QRect(trabajo.Left, trabajo.Top, trabajo.Ancho(), trabajo.Alto()));
+    for (const auto &[barra, estado] : {std::pair{ventana->BarraHor, &teselari.BarraHor},
+                                        std::pair{ventana->BarraVer, &teselari.BarraVer}}) {
+        EXPECT_EQ(barra->geometry(), Lugar(*estado));
+        EXPECT_GT(barra->maximum(), 0);
+        EXPECT_EQ(barra->maximum(), estado->Max());
+        EXPECT_EQ(barra->pageStep(), estado->LargeChange);
+    }
     EXPECT_EQ(ventana->Pic_Muestra->parentWidget(), ventana->Pic_Trabajo);
 }
 
@@ -60,13 +41,14 @@ TEST_F(VentanaTest, LasBarrasMuevenElAreaDeTrabajo) {
     EXPECT_EQ(teselari.BarraHor.Value(), 120);
     EXPECT_EQ(teselari.Pic_Trabajo.Left, -120);
     EXPECT_EQ(ventana->Pic_Trabajo->pos(), QPoint(-120, 0));
-    ventana->BarraVer->setValue(1000); // kept within Max
-    EXPECT_EQ(teselari.BarraVer.Value(), 248);
-    EXPECT_EQ(ventana->Pic_Trabajo->pos(), QPoint(-120, -248));
+    const int32_t maximo = teselari.BarraVer.Max();
+    ventana->BarraVer->setValue(maximo + 1000); // kept within Max
+    EXPECT_EQ(teselari.BarraVer.Value(), maximo);
+    EXPECT_EQ(ventana->Pic_Trabajo->pos(), QPoint(-120, -maximo));
     // The logic scrolls too (the edge scrolling of a drag): the bars follow.
     ventana->Atiende([] { teselari.BarraHor.PonValue(7); });
     EXPECT_EQ(ventana->BarraHor->value(), 7);
-    EXPECT_EQ(ventana->Pic_Trabajo->pos(), QPoint(-7, -248));
+    EXPECT_EQ(ventana->Pic_Trabajo->pos(), QPoint(-7, -maximo));
 }
 
 TEST_F(VentanaTest, ElRelojDeArenaCubreLaPantalla) {
