@@ -1,5 +1,5 @@
-// The message dialog: its size and layout for one and nine lines, its drawn
-// border, and its answers to keys and clicks.
+// The message dialog: its size, its layout and its buttons' images for one
+// and nine lines, its drawn border, and its answers to keys and clicks.
 #include <QApplication>
 #include <QLabel>
 #include <QTest>
@@ -33,6 +33,11 @@ class FormMensajesTest : public testing::Test {
         PonEscritorio(s);
         ultimoClip = 0;
         Sonido = 1;
+        // A strip whose image i is filled with the colour i.
+        for (int i = 1; i <= 13; ++i) {
+            teselari.Pic_BmpBoton.CajaLlena((i - 1) * 49 + 1, 1, (i - 1) * 49 + 48, 48,
+                                            static_cast<Color>(i * 0x10));
+        }
     }
     void TearDown() override { PonEscritorio(ServiciosPlataforma{}); }
 
@@ -65,6 +70,10 @@ TEST_F(FormMensajesTest, UnaLineaYDosBotones) {
     EXPECT_EQ(f.Pic_Salir, nullptr);
     EXPECT_EQ(f.Pic_Si->geometry(), QRect(100, 79, 56, 56));
     EXPECT_EQ(f.Pic_No->geometry(), QRect(250, 79, 56, 56));
+    // Accept and reject are the strip's images 13 and 12, at (5, 5).
+    EXPECT_EQ(f.Pic_Si->Control().Point(5, 5), 13u * 0x10);
+    EXPECT_EQ(f.Pic_Si->Control().Point(4, 4), 0xC0C0C0u);
+    EXPECT_EQ(f.Pic_No->Control().Point(20, 20), 12u * 0x10);
     EXPECT_EQ(f.Tex_Titulo->text(), QStringLiteral("SALIR DE TESELARI"));
     EXPECT_EQ(f.Tex_Mensaje->text(), QStringLiteral("¿Desea abandonar el programa?"));
     EXPECT_TRUE(f.Tex_Titulo->font().bold());
@@ -81,6 +90,7 @@ TEST_F(FormMensajesTest, NueveLineasOUnaYUnBoton) {
     ASSERT_NE(f.Pic_Salir, nullptr);
     EXPECT_EQ(f.Pic_Si, nullptr);
     EXPECT_EQ(f.Pic_Salir->geometry(), QRect(329, 50 + 16 * 9 + 15, 56, 56));
+    EXPECT_EQ(f.Pic_Salir->Control().Point(30, 30), 11u * 0x10); // the strip's image 11
     // Below a single line the button stands at 50 + 16 + 15.
     MensajeLineas = 1;
     FormMensajes una("TESELARI", "Ha conseguido resolver el puzzle");
@@ -142,22 +152,4 @@ TEST_F(FormMensajesTest, PistasYManoSobreLosBotones) {
     EXPECT_EQ(sin.Pic_Si->Control().MousePointer, PUNTERO_PROPIO);
     EXPECT_EQ(sin.Pic_Si->Control().MouseIcon, "MANOINDICE");
     EXPECT_EQ(sin.Pic_Si->cursor().shape(), Qt::BitmapCursor);
-}
-
-TEST_F(FormMensajesTest, LosBotonesLlevanSuImagenDeLaTira) {
-    // A strip whose image i is filled with the colour i.
-    for (int i = 1; i <= 13; ++i) {
-        teselari.Pic_BmpBoton.CajaLlena((i - 1) * 49 + 1, 1, (i - 1) * 49 + 48, 48,
-                                        static_cast<Color>(i * 0x10));
-    }
-    MensajeLineas = 1;
-    MensajeBotones = 2;
-    FormMensajes dos("T", "x");
-    EXPECT_EQ(dos.Pic_Si->Control().Point(20, 20), 13u * 0x10);
-    EXPECT_EQ(dos.Pic_No->Control().Point(20, 20), 12u * 0x10);
-    EXPECT_EQ(dos.Pic_Si->Control().Point(5, 5), 13u * 0x10);
-    EXPECT_EQ(dos.Pic_Si->Control().Point(4, 4), 0xC0C0C0u);
-    MensajeBotones = 1;
-    FormMensajes uno("T", "x");
-    EXPECT_EQ(uno.Pic_Salir->Control().Point(30, 30), 11u * 0x10);
 }
