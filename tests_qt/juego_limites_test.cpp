@@ -17,10 +17,6 @@ struct Destino {
     bool panel; // the panel brings it back, else the right and bottom edges
 };
 
-void PrintTo(const Destino &d, std::ostream *os) {
-    *os << d.nombre;
-}
-
 // Overshoots of 40 pixels and more: beyond what an edge scroll of the drag
 // itself (a tenth of the bar's range) can take back.
 const Destino DESTINOS[] = {

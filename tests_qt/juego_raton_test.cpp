@@ -2,8 +2,6 @@
 // it, on a scrolled view too, and the finish with its message. Which piece a
 // press takes and where a drop leaves it are the board's rules, tested
 // without a window.
-#include <sstream>
-
 #include "board/Render.h"
 #include "juego_qt_comun.h"
 
@@ -13,10 +11,6 @@ struct Arrastre {
     int16_t tipo;
     int hv, vv; // scrolling of the view
 };
-
-void PrintTo(const Arrastre &a, std::ostream *os) {
-    *os << "cut " << a.tipo << ", view at " << a.hv << "," << a.vv;
-}
 
 class ArrastreQt : public JuegoQt, public testing::WithParamInterface<Arrastre> {};
 
@@ -70,9 +64,9 @@ TEST_P(ArrastreQt, LaPantallaEsLaImagenConLaPiezaEnSuSitio) {
 INSTANTIATE_TEST_SUITE_P(Cortes, ArrastreQt,
                          testing::Values(Arrastre{1, 0, 0}, Arrastre{4, 152, 168}),
                          [](const testing::TestParamInfo<Arrastre> &i) {
-                             std::ostringstream n;
-                             n << "tipo" << i.param.tipo << "_" << i.param.hv << "_" << i.param.vv;
-                             return n.str();
+                             const Arrastre &a = i.param;
+                             return "tipo" + std::to_string(a.tipo) + "_" + std::to_string(a.hv) +
+                                    "_" + std::to_string(a.vv);
                          });
 
 TEST_F(JuegoQt, LaUltimaPiezaEnCasaMuestraElMensajeYLaSiguientePulsacionDevuelveLosContornos) {

@@ -38,10 +38,6 @@ struct PulsacionDerecha {
     bool enElPunto; // the panel opens at the press itself
 };
 
-void PrintTo(const PulsacionDerecha &p, std::ostream *os) {
-    *os << p.nombre;
-}
-
 class PanelEmergente : public PanelesPantalla,
                        public testing::WithParamInterface<PulsacionDerecha> {};
 
