@@ -115,6 +115,7 @@ TEST(TiraBotones, CadaSemillaCaeEnLaSombraDeSuImagen) {
 
 // --- the chronometer ---
 
+// The border, the green and the red key, and the sunken field of the digits.
 TEST(Cronometro, CaraGrisConTeclasYCampo) {
     const QImage c = Lee("cronometro.png");
     ASSERT_FALSE(c.isNull());
@@ -122,11 +123,8 @@ TEST(Cronometro, CaraGrisConTeclasYCampo) {
     const struct {
         int x, y;
         QRgb color;
-    } puntos[] = {{0, 0, 0xFFFFFF},   {61, 38, 0x000000}, {15, 9, 0x008000},  {44, 9, 0xFF0000},
-                  {30, 25, 0xC0C0C0}, {4, 19, 0xC0C0C0},  {56, 33, 0xC0C0C0}, {3, 25, 0x808080},
-                  {57, 25, 0xFFFFFF}, {4, 10, 0xFFFFFF},  {20, 14, 0x000000}, {31, 9, 0x000000},
-                  {58, 9, 0x000000},  {6, 13, 0x005000},  {29, 9, 0x005000},  {56, 9, 0xA00000},
-                  {3, 18, 0x808080},  {1, 20, 0xE0E0E0}};
+    } puntos[] = {{0, 0, 0xFFFFFF},   {61, 38, 0x000000}, {15, 9, 0x008000}, {44, 9, 0xFF0000},
+                  {30, 25, 0xC0C0C0}, {3, 25, 0x808080},  {57, 25, 0xFFFFFF}};
     for (const auto &p : puntos) {
         EXPECT_EQ(c.pixel(p.x, p.y) & 0xFFFFFF, p.color) << p.x << "," << p.y;
     }
@@ -253,7 +251,6 @@ TEST(Muestras, CadaImagenSeLeeYTieneDetalleEnTodaParte) {
         EXPECT_LE(img.height(), 768);
         EXPECT_GT(VarianzaMinima(img), CotaDetalle);
         if (m.Nombre.endsWith(".BMP")) {
-            EXPECT_EQ(img.depth() == 32 ? 24 : img.depth(), 24);
             const QByteArray bmp = LeeBytes("muestras/" + m.Nombre);
             EXPECT_EQ(qFromLittleEndian<quint16>(bmp.constData() + 28), 24) << "bits per pixel";
         }
