@@ -64,13 +64,12 @@ TEST_F(ComandosQt, ElSieteParaTrasLaPiezaEnLaMano) {
     Suelta(arriba.X + 40, arriba.Y + 30);
 }
 
-// The solver from its button places every piece and leaves the pile as it
-// found it. Each piece sounds when it has arrived, before any event is let
-// through: the screen has followed the move by itself.
-TEST_F(ComandosQt, ResolverColocaTodoYDejaLaPilaComoEstaba) {
+// The solver from its button: each piece sounds when it has arrived, before
+// any event is let through, and the screen has followed the move by itself.
+// Where the pieces and the pile end is the board's rule.
+TEST_F(ComandosQt, ResolverMuestraCadaPiezaAlLlegar) {
     PreparaDesordenado();
     PartidaValida = VERDADERO;
-    const std::vector<int16_t> pila(OrdenPiezas.begin(), OrdenPiezas.end());
     Sonido = 1;
     int distintos = 0, llegadas = 0;
     alSonar = [&](int16_t clip) {
@@ -80,13 +79,7 @@ TEST_F(ComandosQt, ResolverColocaTodoYDejaLaPilaComoEstaba) {
     Clic(9);
     EXPECT_EQ(llegadas, NroPiezas);
     EXPECT_EQ(distintos, 0);
-    EXPECT_EQ(PiezasColocadas, NroPiezas);
-    EXPECT_EQ(std::vector<int16_t>(OrdenPiezas.begin(), OrdenPiezas.end()), pila);
-    EXPECT_EQ(PuzzleCompleto, VERDADERO);
-    EXPECT_EQ(ModoResolver, FALSO);
+    // The button up, and the screen shows the clean picture.
     CompruebaArriba(9);
-    // The solver finishes without a message, and the screen shows the clean
-    // picture.
-    EXPECT_TRUE(mensajes.empty());
     EXPECT_EQ(PixelesDistintosEnPantalla(), 0);
 }
