@@ -150,7 +150,6 @@ TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
         EXPECT_EQ(r.textos[0].x, DivEntera(Redondea(56 - 4 - ancho), 2));
         EXPECT_EQ(teselari.Pic_BSInfo.CurrentY, 3);
     }
-    PonServicio(&ServiciosPlataforma::Texto, nullptr);
 }
 
 // The bars move the work area, a bar's value stays within its range, and a

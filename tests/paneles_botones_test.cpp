@@ -107,7 +107,6 @@ TEST_F(Paneles, ElPanelRehechoEscribeLaCuentaYMantieneLosPulsados) {
     NroPiezas = 64;
     BotonPulsado[7] = VERDADERO;
     DibujaBotonesSiempre();
-    PonServicio(&ServiciosPlataforma::Texto, nullptr);
     ASSERT_EQ(r.textos.size(), 1u);
     EXPECT_EQ(r.textos[0].texto, "0 / 64");
     EXPECT_EQ(r.textos[0].color, 0xFF0000u);

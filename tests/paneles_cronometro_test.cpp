@@ -48,11 +48,6 @@ class PanelCronometro : public Motor {
         teselari.Pic_Cronome.Move(500, 100);
         teselari.Pic_Cronome.Visible = true;
     }
-    void TearDown() override {
-        PonServicio(&ServiciosPlataforma::Texto, nullptr);
-        QuitaEscritorio();
-        Motor::TearDown();
-    }
     RotuladorRegistro rotulador;
 };
 

@@ -31,10 +31,6 @@ class Pulsa : public Motor {
         PreparaBitmap();
         DibujaBotonesSiempre(); // every button drawn up
     }
-    void TearDown() override {
-        QuitaEscritorio();
-        Motor::TearDown();
-    }
     static void EnciendeModo(int16_t &modo, int16_t boton) {
         modo = VERDADERO;
         if (boton != 0) {
@@ -137,7 +133,6 @@ TEST_P(Completo, BloqueaDelCincoAlNueve) {
     int dibujos = 0;
     teselari.Pic_BotonSiempre[b].AlCambiar = [&dibujos](const Rectangulo &) { ++dibujos; };
     PulsaBoton(b);
-    teselari.Pic_BotonSiempre[b].AlCambiar = nullptr;
     EXPECT_EQ(dibujos, 0);
     EXPECT_EQ(Piezas, piezas);
     EXPECT_EQ(OrdenPiezas, orden);

@@ -46,11 +46,6 @@ class Careta : public Motor {
         PintaFuentes(form);
         form.Form_Load(1024, 768);
     }
-    void TearDown() override {
-        QuitaEscritorio();
-        PonServicio(&ServiciosPlataforma::Reloj, nullptr);
-        Motor::TearDown();
-    }
     FormCareta form;
 };
 

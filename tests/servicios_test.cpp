@@ -14,10 +14,6 @@ namespace {
 class Servicios : public Motor {
   protected:
     void SetUp() override { InstalaEscritorio(); }
-    void TearDown() override {
-        QuitaEscritorio();
-        Motor::TearDown();
-    }
 };
 
 } // namespace
