@@ -16,10 +16,6 @@ class Paneles : public Motor {
         RestauraValoresIniciales();
         PintaTiraPrueba(teselari.Pic_BmpBoton);
     }
-    void Pantalla(int16_t ancho, int16_t alto) {
-        AnchoPantalla = ancho;
-        AltoPantalla = alto;
-    }
 };
 
 // The buttons in `en` stand in the order of their numbers, `primera` of them
@@ -61,7 +57,7 @@ class PanelSiempre : public Paneles, public ::testing::WithParamInterface<CasoSi
 
 TEST_P(PanelSiempre, SeDisponeSegunElAltoDePantalla) {
     const CasoSiempre &c = GetParam();
-    Pantalla(1024, c.alto_pantalla);
+    AltoPantalla = c.alto_pantalla; // 1024 wide
     BotonEnSiempre.fill(false);
     for (int b : c.botones) {
         BotonEnSiempre[b] = true;
@@ -136,7 +132,7 @@ class PanelDerecho : public Paneles, public ::testing::WithParamInterface<CasoDe
 
 TEST_P(PanelDerecho, SeAbreJuntoAlRatonSinSalirDeLaPantalla) {
     const CasoDerecho &c = GetParam();
-    Pantalla(1024, c.alto_pantalla);
+    AltoPantalla = c.alto_pantalla; // 1024 wide
     BotonEnDerecho.fill(true);
     DibujaBotonesDerecho(c.x, c.y);
     const CuadroImagen &p = teselari.Pic_BotonesDerecho;
