@@ -108,40 +108,32 @@ TEST_F(Comandos, ConLaDeArribaColocadaElTutorNoParpadea) {
     EXPECT_EQ(cambios, 0);
 }
 
-// The help opens on its contents, with its button down and the clock
-// stopped while it opens.
-TEST_F(Comandos, LaAyudaAbreElContenidoConElRelojParado) {
-    static std::vector<std::array<int16_t, 3>> vistas; // topic, button 1, clock
-    vistas.clear();
-    PonServicio(&ServiciosPlataforma::MuestraAyuda, [](int16_t tema) {
-        vistas.push_back({tema, BotonPulsado[1], RelojEnMarcha});
-    });
-    ArrancaCronometro();
-    PulsaBoton(1);
-    EXPECT_EQ(vistas, (std::vector<std::array<int16_t, 3>>{{0, VERDADERO, FALSO}}));
-}
-
 class FueraDelTablero : public Comandos, public ::testing::WithParamInterface<int> {};
 
 // 1, 2 and 10 stop the clock while away and start it again afterwards,
-// whatever state it had; the seconds are kept.
+// whatever state it had; the seconds are kept. The help opens on its
+// contents, with its button down and the clock stopped.
 TEST_P(FueraDelTablero, ElRelojVuelveAAndar) {
     const int16_t b = static_cast<int16_t>(GetParam());
-    void (*comandos[])() = {
-        nullptr, AbreAyuda, PersonalizaAplicacion, nullptr, nullptr, nullptr, nullptr, nullptr,
-        nullptr, nullptr,   AbreHistorico};
+    static std::vector<std::array<int16_t, 3>> ayudas; // topic, button 1, clock
+    ayudas.clear();
+    PonServicio(&ServiciosPlataforma::MuestraAyuda, [](int16_t tema) {
+        ayudas.push_back({tema, BotonPulsado[1], RelojEnMarcha});
+    });
     for (bool en_marcha : {false, true}) {
         en_marcha ? ArrancaCronometro() : ParaCronometro();
         SegundosCronometro = 1234;
         int pasos_cronome = 0;
         teselari.Pic_Cronome.AlCambiar = [&pasos_cronome](const Rectangulo &) { ++pasos_cronome; };
-        comandos[b]();
+        PulsaBoton(b);
         teselari.Pic_Cronome.AlCambiar = nullptr;
         EXPECT_EQ(RelojEnMarcha, VERDADERO);
         EXPECT_EQ(SegundosCronometro, 1234);
         // Both keys were drawn twice: stopped, then running.
         EXPECT_EQ(pasos_cronome, 12);
     }
+    const std::array<int16_t, 3> ayuda{0, VERDADERO, FALSO};
+    EXPECT_EQ(ayudas, std::vector(b == 1 ? 2u : 0u, ayuda));
 }
 
 INSTANTIATE_TEST_SUITE_P(Comandos, FueraDelTablero, ::testing::Values(1, 2, 10));

@@ -1,10 +1,8 @@
 // The press on the board: picking a piece through the pile, carrying it and
-// letting it go, the pop-up panel, the end of the coloured view, and presses
-// that must be refused.
+// letting it go, the pop-up panel, and presses that must be refused.
 #include <utility>
 
 #include "board/Arrastre.h"
-#include "board/Inspeccion.h"
 #include "board/Raton.h"
 #include "board/Render.h"
 #include "core/Cronometro.h"
@@ -118,19 +116,4 @@ TEST_F(Tablero, ElBotonDerechoAbreElPanelYElIzquierdoLoCierra) {
     EXPECT_TRUE(escritorio.sonidos.empty());
     EXPECT_EQ(teselari.Pic_Trabajo.MousePointer, 0);
     EXPECT_EQ(RelojEnMarcha, FALSO);
-}
-
-TEST_F(Tablero, LaPulsacionTerminaLaVistaDeColoresYLuegoCoge) {
-    PreparaTablero(4, 1, 400, 300);
-    PonPieza(3, 600, 400);
-    RepintaTablero();
-    const Superficie normal = teselari.Pic_Imagen;
-    ModoColocadas = VERDADERO;
-    MostrarPiezasBienoMal();
-    Pic_Trabajo_MouseDown(1, 0, 650, 430);
-    EXPECT_EQ(ModoColocadas, FALSO);
-    EXPECT_EQ(OrdenPiezas[1], 3);
-    EXPECT_EQ(PiezaLevantada, VERDADERO);
-    Pic_Trabajo_MouseUp(1, 0, 650, 430);
-    EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, normal));
 }
