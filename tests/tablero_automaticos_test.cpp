@@ -70,7 +70,6 @@ TEST_F(Tablero, OrdenarLlenaLaColumnaYLaFilaDeCadaAnillo) {
     EXPECT_EQ(ModoOrdenar, FALSO);
     EXPECT_EQ(BotonPulsado[7], FALSO);
     EXPECT_EQ(PiezaLevantada, FALSO);
-    EXPECT_EQ(teselari.Pic_Trabajo.MousePointer, 0);
     EXPECT_EQ(CursorTrabajo, 9);
     EXPECT_TRUE(TableroAlDia());
 }

@@ -140,9 +140,6 @@ TEST_F(Tablero, SueltasQueNoDejanNada) {
         EXPECT_EQ(PiezaLevantada, c.levantadaDespues) << c.que;
         EXPECT_EQ(PiezaSoltandose, c.soltandoseDespues) << c.que;
         EXPECT_EQ(CursorTrabajo, c.cursor) << c.que; // brought up to date when free
-        if (c.bandera != nullptr) {
-            *c.bandera = FALSO;
-        }
     }
 }
 
@@ -200,11 +197,8 @@ TEST_P(Final, LaUltimaPiezaTerminaLaPartida) {
     EXPECT_EQ(m.titulo, "TESELARI");
     EXPECT_EQ(m.texto, "Ha conseguido resolver el puzzle");
     EXPECT_TRUE(vistoLimpio);
-    EXPECT_EQ(PiezasColocadas, NroPiezas);
     EXPECT_EQ(PuzzleCompleto, VERDADERO);
     EXPECT_EQ(RelojEnMarcha, FALSO);
-    EXPECT_EQ(PiezaLevantada, FALSO);
-    EXPECT_EQ(PiezaSoltandose, FALSO);
     EXPECT_EQ(teselari.Pic_BotonDerecho[9].MousePointer, PUNTERO_PROHIBIDO); // nothing to solve
     // A press beside the puzzle brings the cut lines back and leaves the clock
     // stopped; play goes on, and a pick sets it going again.
