@@ -35,6 +35,7 @@ TEST_P(Mano, CogeLlevaYSueltaLaPiezaPulsada) {
     // centre belongs to the figure.
     const int16_t k = TipoPieza < 2 ? 8 : 8 + 25;
     const int32_t x0 = Piezas[k].X + AnchoPieza / 2, y0 = Piezas[k].Y + AltoPieza / 2;
+    teselari.Pic_BotonesDerecho.Visible = true; // closed by the pick
     Pic_Trabajo_MouseDown(1, 0, static_cast<float>(x0) + 0.4f, static_cast<float>(y0) - 0.4f);
     EXPECT_EQ(OrdenPiezas[1], k);
     EXPECT_EQ(PiezaLevantada, VERDADERO);
