@@ -126,25 +126,34 @@ struct CasoLienzo {
     int16_t lado;
     int32_t ancho, alto, anchoPuzzle, altoPuzzle, anchoModelo, altoModelo, izquierda;
     int32_t max, paso;
+    int16_t fondo;
 };
 
-const CasoLienzo LIENZOS[] = {{4, 641, 481, 640, 480, 320, 240, 352, 0, 0},
-                              {4, 643, 483, 640, 480, 322, 242, 351, 0, 0},
-                              {4, 638, 480, 636, 480, 319, 240, 352, 0, 0},
-                              {4, 808, 552, 808, 552, 404, 276, 310, 0, 0},
-                              {4, 809, 553, 808, 552, 404, 276, 310, 10, 1},
-                              {4, 818, 562, 816, 560, 409, 281, 308, 10, 1},
-                              {4, 1153, 897, 1152, 896, 576, 448, 224, 345, 34},
-                              {7, 1024, 768, 1022, 763, 512, 384, 256, 216, 21}};
+const CasoLienzo LIENZOS[] = {{4, 641, 481, 640, 480, 320, 240, 352, 0, 0, 0},
+                              {4, 643, 483, 640, 480, 322, 242, 351, 0, 0, 1},
+                              {4, 638, 480, 636, 480, 319, 240, 352, 0, 0, 2},
+                              {4, 808, 552, 808, 552, 404, 276, 310, 0, 0, 3},
+                              {4, 809, 553, 808, 552, 404, 276, 310, 10, 1, 4},
+                              {4, 818, 562, 816, 560, 409, 281, 308, 10, 1, 5},
+                              {4, 1153, 897, 1152, 896, 576, 448, 224, 345, 34, 2},
+                              {7, 1024, 768, 1022, 763, 512, 384, 256, 216, 21, 3}};
 
 class Lienzo : public Motor, public ::testing::WithParamInterface<CasoLienzo> {};
 
 TEST_P(Lienzo, PuzzleModeloYBarras) {
     const CasoLienzo c = GetParam();
     PreparaJuego(c.lado, 0, c.ancho, c.alto);
+    ColorFondo = c.fondo;
     SesionRestaurando = VERDADERO;
     PreparaBitmap();
     const FormTeselari &f = teselari;
+    // The cuts are black on the light backgrounds (0 to 2), white on the
+    // dark ones, along the picture's top and each cell's right edge.
+    const Color corte = c.fondo > 2 ? COLOR_BLANCO : COLOR_NEGRO;
+    EXPECT_EQ(static_cast<Color>(ColorContraste), corte);
+    EXPECT_EQ(f.Pic_Bitmap.Point(0, 0), corte);
+    EXPECT_EQ(f.Pic_Bitmap.Point(AnchoPieza - 1, AltoPieza / 2), corte);
+    EXPECT_EQ(f.Pic_Imagen.BackColor(), static_cast<Color>(ColoresFondo[c.fondo]));
     EXPECT_EQ(AnchoPuzzle, c.anchoPuzzle);
     EXPECT_EQ(AltoPuzzle, c.altoPuzzle);
     EXPECT_EQ(f.Pic_Mascara.Ancho(), c.anchoPuzzle);
@@ -193,20 +202,6 @@ TEST_F(Motor, BarrasYModeloSeColocan) {
             }
             EXPECT_TRUE(hallado) << x << "," << y;
         }
-    }
-}
-
-TEST_F(Motor, ColorDeLosCortesSegunElFondo) {
-    for (int16_t fondo = 0; fondo <= 5; ++fondo) {
-        PreparaJuego(3, 0, 330, 240);
-        ColorFondo = fondo;
-        SesionRestaurando = VERDADERO;
-        PreparaBitmap();
-        const Color esperado = fondo > 2 ? COLOR_BLANCO : COLOR_NEGRO;
-        EXPECT_EQ(static_cast<Color>(ColorContraste), esperado) << fondo;
-        EXPECT_EQ(teselari.Pic_Bitmap.Point(0, 0), esperado) << fondo;
-        EXPECT_EQ(teselari.Pic_Bitmap.Point(109, 50), esperado) << fondo; // right edge of a cell
-        EXPECT_EQ(teselari.Pic_Imagen.BackColor(), static_cast<Color>(ColoresFondo[fondo]));
     }
 }
 
