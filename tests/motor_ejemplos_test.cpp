@@ -12,16 +12,13 @@
 using namespace PuzzGbl;
 
 TEST(Redondeo, MitadesAlPar) {
-    struct Caso {
-        double v;
-        int32_t redondeado, entero;
-    };
-    const Caso casos[] = {{2.5, 2, 2},     {3.5, 4, 3},      {-2.5, -2, -3}, {0.5, 0, 0},
-                          {1.5, 2, 1},     {12.3, 12, 12},   {16.4, 16, 16}, {-0.4, 0, -1},
-                          {15.75, 16, 15}, {511.5, 512, 511}};
-    for (const Caso &c : casos) {
-        EXPECT_EQ(Redondea(c.v), c.redondeado) << c.v;
-        EXPECT_EQ(Int(c.v), c.entero) << c.v;
+    // A value, its rounding (halves to even) and its floor.
+    const double casos[][3] = {{2.5, 2, 2},     {3.5, 4, 3},      {-2.5, -2, -3}, {0.5, 0, 0},
+                               {1.5, 2, 1},     {12.3, 12, 12},   {16.4, 16, 16}, {-0.4, 0, -1},
+                               {15.75, 16, 15}, {511.5, 512, 511}};
+    for (const auto &[v, redondeado, entero] : casos) {
+        EXPECT_EQ(Redondea(v), redondeado) << v;
+        EXPECT_EQ(Int(v), entero) << v;
     }
     EXPECT_EQ(DivEntera(345, 10), 34);
     EXPECT_EQ(DivEntera(9, 10), 0);

@@ -38,19 +38,16 @@ class Esperas : public Motor {
 } // namespace
 
 TEST_F(Esperas, EsperaTiempoSigueLaVelocidad) {
-    struct Caso {
-        int16_t velocidad;
-        int32_t centesimas;
-        double segundos;
-    };
-    const Caso casos[] = {{50, 100, 0.5}, {0, 100, 1.0},    {100, 100, 0.0},
-                          {50, 22, 0.11}, {75, 45, 0.1125}, {0, 5, 0.05}};
-    for (const Caso &c : casos) {
-        Velocidad = c.velocidad;
+    // Velocidad, the hundredths asked and the seconds waited.
+    const std::tuple<int16_t, int32_t, double> casos[] = {{50, 100, 0.5},   {0, 100, 1.0},
+                                                          {100, 100, 0.0},  {50, 22, 0.11},
+                                                          {75, 45, 0.1125}, {0, 5, 0.05}};
+    for (const auto &[velocidad, centesimas, segundos] : casos) {
+        Velocidad = velocidad;
         Arranca(30000.0, 0.001);
-        EsperaTiempo(c.centesimas);
+        EsperaTiempo(centesimas);
         const double pasado = static_cast<double>(lecturas - 1) * 0.001;
-        EXPECT_NEAR(pasado, c.segundos, 0.0105) << c.velocidad << " " << c.centesimas;
+        EXPECT_NEAR(pasado, segundos, 0.0105) << velocidad << " " << centesimas;
     }
 }
 

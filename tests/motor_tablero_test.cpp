@@ -122,27 +122,23 @@ TEST_F(Motor, ElPanelApartaLasPiezasDeSuEsquina) {
 TEST_F(Motor, ActualizaBSInfoCuentaYEscribe) {
     RotuladorRegistro r;
     PonServicio(&ServiciosPlataforma::Texto, &r);
-    // Centred on the 56-pixel panel less its 4-pixel frame, at 6 pixels a
-    // character.
-    struct Caso {
-        int16_t lado, colocadas;
-        const char *texto;
-        int32_t x;
-    };
-    const Caso casos[] = {{3, 9, "9 / 9", 11}, {10, 5, "5 / 100", 5}, {4, 0, "0 / 16", 8}};
-    for (const Caso &c : casos) {
-        PreparaJuego(c.lado, 0, 600, 450);
+    // The side, the pieces placed, the count and its left: centred on the
+    // 56-pixel panel less its 4-pixel frame, at 6 pixels a character.
+    const std::tuple<int16_t, int16_t, const char *, int32_t> casos[] = {
+        {3, 9, "9 / 9", 11}, {10, 5, "5 / 100", 5}, {4, 0, "0 / 16", 8}};
+    for (const auto &[lado, colocadas, texto, x] : casos) {
+        PreparaJuego(lado, 0, 600, 450);
         PreparaBitmap();
         for (int32_t k = 1; k <= NroPiezas; ++k) {
-            Piezas[k].X = Piezas[k].XCorrecta + (k <= c.colocadas ? 0 : 1);
+            Piezas[k].X = Piezas[k].XCorrecta + (k <= colocadas ? 0 : 1);
             Piezas[k].Y = Piezas[k].YCorrecta;
         }
         r.textos.clear();
         ActualizaBSInfo();
-        EXPECT_EQ(PiezasColocadas, c.colocadas);
+        EXPECT_EQ(PiezasColocadas, colocadas);
         ASSERT_EQ(r.textos.size(), 1u);
-        EXPECT_EQ(r.textos[0].texto, c.texto);
-        EXPECT_EQ(r.textos[0].x, c.x);
+        EXPECT_EQ(r.textos[0].texto, texto);
+        EXPECT_EQ(r.textos[0].x, x);
         EXPECT_EQ(teselari.Pic_BSInfo.CurrentY, 3);
     }
 }

@@ -13,24 +13,19 @@ using namespace PuzzGbl;
 
 namespace {
 
-struct CasoTiempo {
-    int32_t segundos;
-    const char *texto;
-};
-
 // Below a day: H:mm:ss. From a day on the value reads as a date after
 // 30/12/1899, with the time when there is one; 1900 was not a leap year.
 TEST(Cronometro, ElTiempoSeEscribeComoLaMascaraGeneral) {
-    const CasoTiempo casos[] = {{0, "0:00:00"},
-                                {36000 + 61, "10:01:01"},
-                                {86399, "23:59:59"},
-                                {86400, "31/12/1899"},
-                                {86401, "31/12/1899 0:00:01"},
-                                {2 * 86400 + 3661, "01/01/1900 1:01:01"},
-                                {61 * 86400, "01/03/1900"},
-                                {367 * 86400 + 86399, "01/01/1901 23:59:59"}};
-    for (const CasoTiempo &c : casos) {
-        EXPECT_EQ(TiempoCronometro(c.segundos), c.texto) << c.segundos;
+    const std::pair<int32_t, const char *> casos[] = {{0, "0:00:00"},
+                                                      {36000 + 61, "10:01:01"},
+                                                      {86399, "23:59:59"},
+                                                      {86400, "31/12/1899"},
+                                                      {86401, "31/12/1899 0:00:01"},
+                                                      {2 * 86400 + 3661, "01/01/1900 1:01:01"},
+                                                      {61 * 86400, "01/03/1900"},
+                                                      {367 * 86400 + 86399, "01/01/1901 23:59:59"}};
+    for (const auto &[segundos, texto] : casos) {
+        EXPECT_EQ(TiempoCronometro(segundos), texto) << segundos;
     }
 }
 
