@@ -96,7 +96,8 @@ inline bool MismosPixeles(const Superficie &a, const Superficie &b) {
     return true;
 }
 
-// A fixture that leaves the state clean after each test.
+// A fixture that leaves the state clean after each test, the platform's
+// doubles put away with the rest.
 class Motor : public ::testing::Test {
   protected:
     void TearDown() override { RestauraValoresIniciales(); }

@@ -4,7 +4,6 @@
 // allows.
 #include <algorithm>
 #include <deque>
-#include <sstream>
 
 #include "core/Redondeo.h"
 #include "cutting/Corte.h"
@@ -20,9 +19,9 @@ struct CasoCorte {
 };
 
 std::string NombreCaso(const ::testing::TestParamInfo<CasoCorte> &i) {
-    std::ostringstream s;
-    s << "t" << i.param.tipo << "_n" << i.param.n << "_" << i.param.w << "x" << i.param.h;
-    return s.str();
+    const CasoCorte &c = i.param;
+    return "t" + std::to_string(c.tipo) + "_n" + std::to_string(c.n) + "_" + std::to_string(c.w) +
+           "x" + std::to_string(c.h);
 }
 
 // Irregular cells stay within 0.476 to 2.1 of width to height, stars within

@@ -1,8 +1,6 @@
 // No picture size from 1 x 1 to 1024 x 768 and no grid the settings allow
 // harms the engine: the cut, the deal, every mask, a lift and a move run to
 // their end (the sanitizer build proves nothing is read out of bounds).
-#include <sstream>
-
 #include "board/Arrastre.h"
 #include "board/Render.h"
 #include "cutting/Corte.h"
@@ -47,7 +45,6 @@ INSTANTIATE_TEST_SUITE_P(Imagenes, TamanosExtremos,
                                            CasoTamano{3, 768}, CasoTamano{1024, 4},
                                            CasoTamano{61, 59}, CasoTamano{1024, 768}),
                          [](const ::testing::TestParamInfo<CasoTamano> &i) {
-                             std::ostringstream nombre;
-                             nombre << i.param.ancho << 'x' << i.param.alto;
-                             return nombre.str();
+                             return std::to_string(i.param.ancho) + "x" +
+                                    std::to_string(i.param.alto);
                          });

@@ -95,7 +95,6 @@ const CasoLimite casos_limite[] = {
     {"PasaLaDerecha", false, 0, 0, 700, 300, 500, 400},
     {"PasaLaIzquierda", false, 0, 0, -501, 20, 500, 120},
     {"LlegaALaIzquierda", false, 0, 0, -500, 20, 0, 120},
-    {"PasaArriba", false, 0, 0, 50, -101, 550, 100},
     {"PasaAbajo", false, 0, 0, 50, 700, 550, 100},
     {"JustoAbajo", false, 0, 0, 50, 613, 550, 713},
     // Dropped beside the button column: pushed left of it.
@@ -106,10 +105,8 @@ const CasoLimite casos_limite[] = {
     {"Desplazado", false, 100, 50, 10, 10, 510, 110},
     {"DesplazadoJuntoALosBotones", false, 100, 50, 446, 0, 884, 100},
     {"DesplazadoPasaLaDerecha", false, 100, 50, 447, 0, 500, 100},
-    // The model lives in board coordinates.
-    {"ModeloPasaLaDerecha", true, 0, 0, 509, 10, 300, 510},
-    {"ModeloJuntoALosBotones", true, 0, 0, 508, -400, 746, 100},
-    // It can't go low enough to pass under the column on this screen.
+    // The model lives in board coordinates; it can't go low enough to pass
+    // under the column on this screen.
     {"ModeloAbajoJuntoALosBotones", true, 0, 0, 508, 100, 746, 600},
     {"ModeloDesplazadoNoLlegaArriba", true, 100, 200, 0, -301, 300, 500},
     {"ModeloDesplazadoArriba", true, 100, 200, 0, -300, 300, 200},

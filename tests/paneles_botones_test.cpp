@@ -16,10 +16,6 @@ class Paneles : public Motor {
         RestauraValoresIniciales();
         PintaTiraPrueba(teselari.Pic_BmpBoton);
     }
-    void Pantalla(int16_t ancho, int16_t alto) {
-        AnchoPantalla = ancho;
-        AltoPantalla = alto;
-    }
 };
 
 // The buttons in `en` stand in the order of their numbers, `primera` of them
@@ -61,7 +57,7 @@ class PanelSiempre : public Paneles, public ::testing::WithParamInterface<CasoSi
 
 TEST_P(PanelSiempre, SeDisponeSegunElAltoDePantalla) {
     const CasoSiempre &c = GetParam();
-    Pantalla(1024, c.alto_pantalla);
+    AltoPantalla = c.alto_pantalla; // 1024 wide
     BotonEnSiempre.fill(false);
     for (int b : c.botones) {
         BotonEnSiempre[b] = true;
@@ -86,30 +82,22 @@ TEST_P(PanelSiempre, SeDisponeSegunElAltoDePantalla) {
 INSTANTIATE_TEST_SUITE_P(Disposicion, PanelSiempre, ::testing::ValuesIn(casos_siempre),
                          [](const auto &caso) { return std::string(caso.param.nombre); });
 
-TEST_F(Paneles, ElPanelNoTapaElCronometro) {
-    struct Caso {
-        int antes, despues;
-    };
-    // The panel stands at 946; the chronometer (62 wide) must end by then.
-    const Caso casos[] = {{950, 884}, {885, 884}, {884, 884}, {100, 100}};
-    for (const Caso &c : casos) {
-        teselari.Pic_Cronome.Left = c.antes;
-        DibujaBotonesSiempre();
-        EXPECT_EQ(teselari.Pic_Cronome.Left, c.despues) << c.antes;
-    }
-}
-
-// Rebuilt, the panel writes the count at its foot and shows a running
-// command's button down: its image starts at 5 instead of 3.
-TEST_F(Paneles, ElPanelRehechoEscribeLaCuentaYMantieneLosPulsados) {
+// Rebuilt, the panel (at 946) keeps the chronometer (62 wide) left of it,
+// writes the count at its foot and shows a running command's button down:
+// its image starts at 5 instead of 3.
+TEST_F(Paneles, ElPanelRehechoApartaElCronometroEscribeLaCuentaYMantieneLosPulsados) {
     RotuladorRegistro r;
     PonServicio(&ServiciosPlataforma::Texto, &r);
     NroPiezas = 64;
     BotonPulsado[7] = VERDADERO;
-    DibujaBotonesSiempre();
-    PonServicio(&ServiciosPlataforma::Texto, nullptr);
-    ASSERT_EQ(r.textos.size(), 1u);
-    EXPECT_EQ(r.textos[0].texto, "0 / 64");
+    const int casos[][2] = {{950, 884}, {885, 884}, {884, 884}, {100, 100}};
+    for (const auto &[antes, despues] : casos) {
+        teselari.Pic_Cronome.Left = antes;
+        DibujaBotonesSiempre();
+        EXPECT_EQ(teselari.Pic_Cronome.Left, despues) << antes;
+        EXPECT_EQ(r.textos.back().texto, "0 / 64");
+    }
+    EXPECT_EQ(r.textos.size(), 4u);
     EXPECT_EQ(r.textos[0].color, 0xFF0000u);
     EXPECT_EQ(teselari.Pic_BotonSiempre[7].Point(4, 4), GRIS_PANEL);
     EXPECT_EQ(teselari.Pic_BotonSiempre[7].Point(5, 5), CuerpoPrueba(7));
@@ -137,7 +125,7 @@ class PanelDerecho : public Paneles, public ::testing::WithParamInterface<CasoDe
 
 TEST_P(PanelDerecho, SeAbreJuntoAlRatonSinSalirDeLaPantalla) {
     const CasoDerecho &c = GetParam();
-    Pantalla(1024, c.alto_pantalla);
+    AltoPantalla = c.alto_pantalla; // 1024 wide
     BotonEnDerecho.fill(true);
     DibujaBotonesDerecho(c.x, c.y);
     const CuadroImagen &p = teselari.Pic_BotonesDerecho;

@@ -12,6 +12,7 @@
 #include "panels/Ordenes.h"
 #include "plataforma_prueba.h"
 #include "raster/Raster.h"
+#include "tablero_comun.h"
 
 using namespace PuzzGbl;
 
@@ -59,13 +60,7 @@ TEST_F(Comandos, LasPiezasOcultasSubenDesdeAbajo) {
             sueltas.push_back(OrdenPiezas[i]);
         }
     }
-    teselari.Pic_Imagen.QuitaImagen();
-    for (int16_t i = NroPiezas; i >= 1; --i) {
-        MuestraPieza(teselari.Pic_Imagen, i);
-    }
-    // The screen as its twin holds it.
-    const Superficie &imagen = teselari.Pic_Imagen;
-    BitBlt(teselari.Pic_Trabajo, 0, 0, imagen.Ancho(), imagen.Alto(), imagen, 0, 0, SRCCOPY);
+    RepintaTablero();
     MuestraPiezasOcultas();
     // The loose pieces on top in their earlier order, the placed ones below.
     std::vector<int16_t> esperado = sueltas;
@@ -90,7 +85,6 @@ TEST_F(Comandos, ElTutorParpadeaEntreLaPiezaYSuSitio) {
         rectangulos.push_back(r);
     };
     MuestraTutor();
-    f.Pic_Trabajo.AlCambiar = nullptr;
     const Rectangulo pieza{q.X, q.Y, q.X + AnchoPieza + 1, q.Y + AltoPieza + 1};
     const Rectangulo sitio{q.XCorrecta, q.YCorrecta, q.XCorrecta + AnchoPieza + 1,
                            q.YCorrecta + AltoPieza + 1};
@@ -105,57 +99,41 @@ TEST_F(Comandos, ElTutorParpadeaEntreLaPiezaYSuSitio) {
     EXPECT_EQ(f.Pic_Trabajo.DrawMode, DRAWMODE_COPIA);
 }
 
-// With every piece at its place nothing comes up and nothing blinks.
-TEST_F(Comandos, ConTodoColocadoNiSubenPiezasNiParpadeaElTutor) {
-    for (int16_t k = 1; k <= NroPiezas; ++k) {
-        Piezas[k].X = Piezas[k].XCorrecta;
-        Piezas[k].Y = Piezas[k].YCorrecta;
-    }
-    const std::vector<int16_t> orden = OrdenPiezas;
-    MuestraPiezasOcultas();
+// With the top piece at its place nothing blinks.
+TEST_F(Comandos, ConLaDeArribaColocadaElTutorNoParpadea) {
+    ColocaPiezasEnCasa();
     int cambios = 0;
     teselari.Pic_Trabajo.AlCambiar = [&cambios](const Rectangulo &) { ++cambios; };
     MuestraTutor();
-    teselari.Pic_Trabajo.AlCambiar = nullptr;
-    EXPECT_EQ(OrdenPiezas, orden);
     EXPECT_EQ(cambios, 0);
-}
-
-// The help opens on its contents, with its button down and the clock
-// stopped while it opens.
-TEST_F(Comandos, LaAyudaAbreElContenidoConElRelojParado) {
-    static std::vector<std::array<int16_t, 3>> vistas; // topic, button 1, clock
-    vistas.clear();
-    PonServicio(&ServiciosPlataforma::MuestraAyuda, [](int16_t tema) {
-        vistas.push_back({tema, BotonPulsado[1], RelojEnMarcha});
-    });
-    ArrancaCronometro();
-    PulsaBoton(1);
-    PonServicio(&ServiciosPlataforma::MuestraAyuda, nullptr);
-    EXPECT_EQ(vistas, (std::vector<std::array<int16_t, 3>>{{0, VERDADERO, FALSO}}));
 }
 
 class FueraDelTablero : public Comandos, public ::testing::WithParamInterface<int> {};
 
 // 1, 2 and 10 stop the clock while away and start it again afterwards,
-// whatever state it had; the seconds are kept.
+// whatever state it had; the seconds are kept. The help opens on its
+// contents, with its button down and the clock stopped.
 TEST_P(FueraDelTablero, ElRelojVuelveAAndar) {
     const int16_t b = static_cast<int16_t>(GetParam());
-    void (*comandos[])() = {
-        nullptr, AbreAyuda, PersonalizaAplicacion, nullptr, nullptr, nullptr, nullptr, nullptr,
-        nullptr, nullptr,   AbreHistorico};
+    static std::vector<std::array<int16_t, 3>> ayudas; // topic, button 1, clock
+    ayudas.clear();
+    PonServicio(&ServiciosPlataforma::MuestraAyuda, [](int16_t tema) {
+        ayudas.push_back({tema, BotonPulsado[1], RelojEnMarcha});
+    });
     for (bool en_marcha : {false, true}) {
         en_marcha ? ArrancaCronometro() : ParaCronometro();
         SegundosCronometro = 1234;
         int pasos_cronome = 0;
         teselari.Pic_Cronome.AlCambiar = [&pasos_cronome](const Rectangulo &) { ++pasos_cronome; };
-        comandos[b]();
+        PulsaBoton(b);
         teselari.Pic_Cronome.AlCambiar = nullptr;
         EXPECT_EQ(RelojEnMarcha, VERDADERO);
         EXPECT_EQ(SegundosCronometro, 1234);
         // Both keys were drawn twice: stopped, then running.
         EXPECT_EQ(pasos_cronome, 12);
     }
+    const std::array<int16_t, 3> ayuda{0, VERDADERO, FALSO};
+    EXPECT_EQ(ayudas, std::vector(b == 1 ? 2u : 0u, ayuda));
 }
 
 INSTANTIATE_TEST_SUITE_P(Comandos, FueraDelTablero, ::testing::Values(1, 2, 10));

@@ -44,20 +44,14 @@ inline void PintaTiraPrueba(Superficie &tira) {
     }
 }
 
-// A 1024 x 768 screen with its scroll bars, a board larger than the view
+// A 1024 x 768 screen (the first instant's) with its scroll bars, a board larger than the view
 // (both bars can scroll 200 pixels), the board's twin in the same pixels,
 // and the always-visible panel of eleven buttons in one column.
 inline void PreparaPantallaPaneles() {
     using namespace PuzzGbl;
     FormTeselari &f = teselari;
-    AnchoPantalla = 1024;
-    AltoPantalla = 768;
-    f.BarraHor.Left = 0;
     f.BarraHor.Top = 752;
-    f.BarraHor.Width = 1008;
     f.BarraVer.Left = 1008;
-    f.BarraVer.Top = 0;
-    f.BarraVer.Height = 752;
     f.BarraHor.PonMax(200);
     f.BarraVer.PonMax(200);
     PintaImagenGenerada(f.Pic_Imagen, 1208, 952);

@@ -13,29 +13,21 @@ using namespace PuzzGbl;
 
 namespace {
 
-struct CasoTiempo {
-    int32_t segundos;
-    const char *texto;
-};
-
-class Tiempo : public ::testing::TestWithParam<CasoTiempo> {};
-
-TEST_P(Tiempo, SeEscribeComoLaMascaraGeneral) {
-    EXPECT_EQ(TiempoCronometro(GetParam().segundos), GetParam().texto);
-}
-
 // Below a day: H:mm:ss. From a day on the value reads as a date after
-// 30/12/1899, with the time when there is one.
-INSTANTIATE_TEST_SUITE_P(Cronometro, Tiempo,
-                         ::testing::Values(CasoTiempo{0, "0:00:00"},
-                                           CasoTiempo{36000 + 61, "10:01:01"},
-                                           CasoTiempo{86399, "23:59:59"},
-                                           CasoTiempo{86400, "31/12/1899"},
-                                           CasoTiempo{86401, "31/12/1899 0:00:01"},
-                                           CasoTiempo{2 * 86400 + 3661, "01/01/1900 1:01:01"},
-                                           // 1900 was not a leap year.
-                                           CasoTiempo{61 * 86400, "01/03/1900"},
-                                           CasoTiempo{367 * 86400 + 86399, "01/01/1901 23:59:59"}));
+// 30/12/1899, with the time when there is one; 1900 was not a leap year.
+TEST(Cronometro, ElTiempoSeEscribeComoLaMascaraGeneral) {
+    const std::pair<int32_t, const char *> casos[] = {{0, "0:00:00"},
+                                                      {36000 + 61, "10:01:01"},
+                                                      {86399, "23:59:59"},
+                                                      {86400, "31/12/1899"},
+                                                      {86401, "31/12/1899 0:00:01"},
+                                                      {2 * 86400 + 3661, "01/01/1900 1:01:01"},
+                                                      {61 * 86400, "01/03/1900"},
+                                                      {367 * 86400 + 86399, "01/01/1901 23:59:59"}};
+    for (const auto &[segundos, texto] : casos) {
+        EXPECT_EQ(TiempoCronometro(segundos), texto) << segundos;
+    }
+}
 
 class PanelCronometro : public Motor {
   protected:
@@ -47,11 +39,6 @@ class PanelCronometro : public Motor {
         Sonido = 1;
         teselari.Pic_Cronome.Move(500, 100);
         teselari.Pic_Cronome.Visible = true;
-    }
-    void TearDown() override {
-        PonServicio(&ServiciosPlataforma::Texto, nullptr);
-        QuitaEscritorio();
-        Motor::TearDown();
     }
     RotuladorRegistro rotulador;
 };
@@ -117,11 +104,15 @@ TEST_P(TeclaCronometro, ActuaSoloDondeCambiaElEstado) {
     Pic_Cronome_MouseMove(0, 0, c.x, c.y);
     EXPECT_EQ(CursorPanelNuevo, c.cursor);
     EXPECT_EQ(CursorPanel, c.cursor);
-    const CuadroImagen &panel = teselari.Pic_Cronome;
+    CuadroImagen &panel = teselari.Pic_Cronome;
     EXPECT_EQ(panel.MousePointer, c.cursor == 0 ? PUNTERO_NORMAL : PUNTERO_PROPIO);
     if (c.cursor != 0) {
         EXPECT_EQ(panel.MouseIcon, c.cursor == 1 ? "MANOBLANCA" : "MANOINDICE");
     }
+    // Someone else changes the pointer: the same zone doesn't set it again.
+    panel.MousePointer = 12;
+    Pic_Cronome_MouseMove(0, 0, c.x, c.y);
+    EXPECT_EQ(panel.MousePointer, 12);
     Pic_Cronome_MouseDown(1, 0, c.x, c.y);
     EXPECT_EQ(RelojEnMarcha != FALSO, c.en_marcha_tras);
     EXPECT_EQ(escritorio.sonidos, c.suena ? std::vector<int16_t>{11} : std::vector<int16_t>{});
@@ -137,17 +128,5 @@ TEST_P(TeclaCronometro, ActuaSoloDondeCambiaElEstado) {
 
 INSTANTIATE_TEST_SUITE_P(Teclas, TeclaCronometro, ::testing::ValuesIn(casos_tecla),
                          [](const auto &caso) { return std::string(caso.param.nombre); });
-
-TEST_F(PanelCronometro, ElPunteroSoloCambiaCuandoCambiaLaZona) {
-    ArrancaCronometro();
-    Pic_Cronome_MouseMove(0, 0, 40, 25);
-    EXPECT_EQ(CursorPanel, 1);
-    // Someone else changes the pointer: the same zone doesn't set it again.
-    teselari.Pic_Cronome.MousePointer = 12;
-    Pic_Cronome_MouseMove(0, 0, 41, 26);
-    EXPECT_EQ(teselari.Pic_Cronome.MousePointer, 12);
-    Pic_Cronome_MouseMove(0, 0, 40, 8);
-    EXPECT_EQ(teselari.Pic_Cronome.MouseIcon, "MANOINDICE");
-}
 
 } // namespace

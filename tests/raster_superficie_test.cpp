@@ -121,7 +121,6 @@ TEST(RasterSuperficie, TextoPasaPorElRotulador) {
     EXPECT_EQ(s.CurrentX, 2);
     RotuladorRegistro r;
     PonRotulador(&r);
-    EXPECT_EQ(RotuladorActual(), &r);
     std::vector<Rectangulo> informes;
     s.AlCambiar = [&](const Rectangulo &c) { informes.push_back(c); };
     s.Print("hola");

@@ -46,11 +46,6 @@ class Careta : public Motor {
         PintaFuentes(form);
         form.Form_Load(1024, 768);
     }
-    void TearDown() override {
-        QuitaEscritorio();
-        PonServicio(&ServiciosPlataforma::Reloj, nullptr);
-        Motor::TearDown();
-    }
     FormCareta form;
 };
 
@@ -61,20 +56,16 @@ TEST_F(Careta, ElMarcoRodeaLaVentanaConSusLadosOscuros) {
     const CuadroImagen &v = form.Pic_Careta;
     EXPECT_EQ(v.Left, 16);
     EXPECT_EQ(v.Top, 30);
-    struct Punto {
-        int32_t x, y;
-        Color color;
-    };
-    // Outer border; Shape1 at (14, 28)-(305, 181) on the outer pixels, its
+    // x, y and colour. Outer border; Shape1 at (14, 28)-(305, 181) on the outer pixels, its
     // top and left sides dark for 290 and 152 pixels; a black gap about the
     // viewport; black elsewhere.
-    const Punto puntos[] = {
+    const int32_t puntos[][3] = {
         {0, 0, 0xC0C0C0},     {322, 208, 0xC0C0C0}, {1, 1, 0},           {14, 28, 0x808080},
         {303, 28, 0x808080},  {304, 28, 0xC0C0C0},  {14, 179, 0x808080}, {14, 180, 0xC0C0C0},
         {305, 181, 0xC0C0C0}, {15, 29, 0},          {304, 180, 0},       {160, 100, 0},
     };
-    for (const Punto &p : puntos) {
-        EXPECT_EQ(t.Point(p.x, p.y), p.color) << p.x << "," << p.y;
+    for (const auto &[x, y, color] : puntos) {
+        EXPECT_EQ(t.Point(x, y), static_cast<Color>(color)) << x << "," << y;
     }
 }
 

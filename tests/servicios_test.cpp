@@ -14,32 +14,24 @@ namespace {
 class Servicios : public Motor {
   protected:
     void SetUp() override { InstalaEscritorio(); }
-    void TearDown() override {
-        QuitaEscritorio();
-        Motor::TearDown();
-    }
 };
 
 } // namespace
 
 TEST_F(Servicios, ElMensajeDejaLaRespuestaYSusMedidas) {
-    struct Caso {
-        int16_t botones;
-        bool respuesta;
-        int16_t antes, despues;
-    };
-    // One button leaves the answer as it was; two buttons set it.
-    const Caso casos[] = {{2, true, FALSO, VERDADERO},
-                          {2, false, VERDADERO, FALSO},
-                          {1, false, VERDADERO, VERDADERO},
-                          {1, true, FALSO, FALSO}};
-    for (const Caso &c : casos) {
-        escritorio.respuesta = c.respuesta;
-        RespuestaMensaje = c.antes;
-        MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 3, c.botones);
-        EXPECT_EQ(RespuestaMensaje, c.despues);
+    // The buttons, the answer before, the player's, the answer after: one
+    // button leaves the answer as it was; two buttons set it.
+    const int16_t casos[][4] = {{2, FALSO, 1, VERDADERO},
+                                {2, VERDADERO, 0, FALSO},
+                                {1, VERDADERO, 0, VERDADERO},
+                                {1, FALSO, 1, FALSO}};
+    for (const auto &[botones, antes, jugador, despues] : casos) {
+        escritorio.respuesta = jugador != 0;
+        RespuestaMensaje = antes;
+        MuestraMensaje("SALIR DE TESELARI", "¿Desea abandonar el programa?", 3, botones);
+        EXPECT_EQ(RespuestaMensaje, despues);
         EXPECT_EQ(MensajeLineas, 3);
-        EXPECT_EQ(MensajeBotones, c.botones);
+        EXPECT_EQ(MensajeBotones, botones);
     }
     EXPECT_EQ(escritorio.mensajes.size(), 4u);
     // With no dialog installed, any message closes as if by a key: "Aceptar".

@@ -150,11 +150,6 @@ inline Superficie ImagenConLaPiezaEnLaMano() {
     return esperado;
 }
 
-// A fixture that also takes the desktop's doubles away.
-class Tablero : public Motor {
-  protected:
-    void TearDown() override {
-        QuitaEscritorio();
-        Motor::TearDown();
-    }
-};
+// The board's fixture; the first instant's state puts the desktop's doubles
+// away with the rest.
+class Tablero : public Motor {};

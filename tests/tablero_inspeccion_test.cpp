@@ -1,7 +1,9 @@
-// The coloured view: placed pieces green, misplaced ones red, and back.
+// The coloured view: placed pieces green, misplaced ones red, and back at
+// the next press on the board.
 #include <optional>
 
 #include "board/Inspeccion.h"
+#include "board/Raton.h"
 #include "tablero_comun.h"
 
 using namespace PuzzGbl;
@@ -54,8 +56,14 @@ TEST_P(Colores, CadaPiezaEnSuColorYDespuesEnSusPixeles) {
     }
     EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, teselari.Pic_Imagen));
 
-    ModoColocadas = FALSO;
-    MostrarPiezasBienoMal();
+    // A press ends the view and takes the piece under it; let go where it
+    // lay, the board is as it was before the view.
+    const float px = static_cast<float>(Piezas[1].X + PixelPropio(1)->first);
+    const float py = static_cast<float>(Piezas[1].Y + PixelPropio(1)->second);
+    Pic_Trabajo_MouseDown(1, 0, px, py);
+    EXPECT_EQ(ModoColocadas, FALSO);
+    EXPECT_EQ(OrdenPiezas[1], 1);
+    Pic_Trabajo_MouseUp(1, 0, px, py);
     EXPECT_TRUE(MismosPixeles(teselari.Pic_Imagen, normal));
     EXPECT_TRUE(MismosPixeles(teselari.Pic_Trabajo, normal));
 }

@@ -65,19 +65,16 @@ TEST_F(Tablero, GanaLaPiezaMasAltaYLaCajaIncluyeSusBordes) {
     PiezaPrioritaria(PosicionDe(3));
     PiezaPrioritaria(PosicionDe(9));
     RepintaTablero();
-    struct Caso {
-        int32_t x, y;
-        int16_t pieza; // 0: none
-    };
-    const Caso casos[] = {
+    // x, y and the piece found there (0: none).
+    const int32_t casos[][3] = {
         {545, 335, 9}, // the overlap: the upper one
         {505, 305, 3}, {539, 359, 3}, {579, 329, 3}, {580, 300, 0}, {500, 360, 0},
         {619, 389, 9}, {620, 389, 0}, {619, 390, 0}, {540, 330, 9}, {539, 329, 3},
         {499, 300, 0}, {10, 10, 16}, // the top left cell is the last piece
     };
-    for (const Caso &c : casos) {
-        const int16_t i = PiezaTocada(c.x, c.y);
-        EXPECT_EQ(i == 0 ? 0 : OrdenPiezas[i], c.pieza) << c.x << ", " << c.y;
+    for (const auto &[x, y, pieza] : casos) {
+        const int16_t i = PiezaTocada(x, y);
+        EXPECT_EQ(i == 0 ? 0 : OrdenPiezas[i], pieza) << x << ", " << y;
     }
 }
 
@@ -147,10 +144,6 @@ TEST_F(Tablero, LaManoDesplazaLaVistaEnLosBordes) {
     // visible pixels.
     PreparaTablero(4, 0, 1024, 768, 800, 600);
     FormTeselari &f = teselari;
-    ASSERT_EQ(f.Pic_Trabajo.Ancho(), 1224);
-    ASSERT_EQ(f.Pic_Trabajo.Alto(), 968);
-    ASSERT_EQ(f.BarraHor.Max(), 440);
-    ASSERT_EQ(f.BarraVer.Max(), 384);
     f.BarraVer.LargeChange = 100;
     f.BarraHor.LargeChange = 120;
     struct Caso {
