@@ -15,21 +15,6 @@ constexpr float SUBE_X = 120, SUBE_Y = 30, BAJA_X = 120, BAJA_Y = 46;
 
 } // namespace
 
-TEST(Rejillas, CeldasEntre24Y140SinHuecos) {
-    const struct {
-        int32_t w, h;
-        int16_t primera, ultima;
-    } casos[] = {{320, 240, 3, 10},  {640, 480, 5, 20}, {800, 600, 6, 20},
-                 {1024, 768, 8, 20}, {608, 456, 5, 19}, {972, 729, 7, 20}};
-    for (const auto &c : casos) {
-        const std::vector<int16_t> o = RejillasOfrecidas(c.w, c.h);
-        ASSERT_FALSE(o.empty()) << c.w;
-        EXPECT_EQ(o.front(), c.primera) << c.w;
-        EXPECT_EQ(o.back(), c.ultima) << c.w;
-        EXPECT_EQ(o.size(), static_cast<size_t>(c.ultima - c.primera + 1)) << c.w;
-    }
-}
-
 TEST(RejillaCercana, LaMasProximaYEnEmpateLaMayor) {
     const std::vector<int16_t> huecos{9, 11};
     const std::vector<int16_t> seguidas{3, 4, 5, 6, 7, 8, 9, 10};
@@ -133,22 +118,6 @@ TEST_F(Dialogo, UnaPulsacionJuntoALaFlechaNoEsPaso) {
     f->Pic_FactorPegado.PSet(SUBE_X, SUBE_Y, 0xC0C0C0);
     f->Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y);
     EXPECT_EQ(FactorPegado, factor);
-}
-
-TEST_F(Dialogo, ElZoomQueSaleDeLosLimitesVuelveAtrasConMensaje) {
-    AbreConImagen("g.bmp", 1000, 700);
-    std::vector<int16_t> vistos;
-    f->AlRefrescar = [&vistos] { vistos.push_back(Zoom); };
-    mensajes.clear();
-    f->Pic_Zoom_MouseDown(1, 0, SUBE_X, SUBE_Y);
-    EXPECT_NE(std::find(vistos.begin(), vistos.end(), 105), vistos.end());
-    EXPECT_EQ(Zoom, 100);
-    EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcZoom), "100%");
-    ASSERT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(mensajes[0].titulo, "Imagen fuera de límites");
-    EXPECT_EQ(mensajes[0].lineas, 6);
-    EXPECT_NE(mensajes[0].texto.find("pixels de altura" + NuevaLinea), std::string::npos);
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 1000);
 }
 
 TEST_F(Dialogo, AlSoltarElZoomSeReconstruyenImagenYLista) {

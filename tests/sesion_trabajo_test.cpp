@@ -16,52 +16,39 @@ TEST_F(Sesion, UnaCarpetaDelProgramaQueSePuedeEscribirSeQueda) {
     EXPECT_FALSE(fs::exists(datos));
 }
 
-// The program's files that these tests lay in the program's folder, with
-// their content.
-const std::pair<const char *, const char *> FICHEROS[] = {
-    {"TESEL32.INI", "ini del programa"},
-    {"TESEL32.HIS", "his del programa"},
-    {"CASA.JPG", "casa"},
-    {"TRANVIA.JPG", "tranvia"},
-};
-
 // A folder named CSCD.WRK keeps the marker file from being created, also
-// for a user who may write anywhere.
-void BloqueaEscritura(const std::string &carpeta) {
-    fs::create_directory(carpeta + "/CSCD.WRK");
-}
-
+// for a user who may write anywhere. Each of the program's files holds its
+// name, but CATEDRAL.JPG is missing and 123.BMP already stands in the data
+// folder, which has no initialisation file yet.
 TEST_F(Sesion, UnaCarpetaQueNoSePuedeEscribirPasaALaDeDatosYCopiaUnaVez) {
-    for (const auto &[nombre, contenido] : FICHEROS) {
-        EscribeFichero(programa + "/" + nombre, contenido);
+    const std::string trabajo = datos + "/teselari/";
+    for (const std::string nombre : FicherosPrograma) {
+        if (nombre != "CATEDRAL.JPG") {
+            EscribeFichero(programa + "/" + nombre, nombre);
+        }
     }
     EscribeFichero(programa + "/OTRO.JPG", "no es de la lista");
-    BloqueaEscritura(programa);
-    // One already in the data folder, with no initialisation file: kept.
-    const std::string trabajo = datos + "/teselari/";
-    EscribeFichero(programa + "/123.BMP", "123");
+    fs::create_directory(programa + "/CSCD.WRK");
     fs::create_directories(trabajo);
     EscribeFichero(trabajo + "123.BMP", "cambiada");
 
     CompruebaSiCD();
     EXPECT_EQ(DirectorioTrabajo, trabajo);
     EXPECT_EQ(fs::current_path(), fs::path(datos + "/teselari"));
-    for (const auto &[nombre, contenido] : FICHEROS) {
-        EXPECT_EQ(LeeFichero(trabajo + nombre), contenido) << nombre;
+    for (const std::string nombre : FicherosPrograma) {
+        const std::string copia = nombre == "123.BMP" ? "cambiada" : nombre;
+        EXPECT_EQ(LeeFichero(trabajo + nombre), nombre == "CATEDRAL.JPG" ? "" : copia);
     }
-    EXPECT_EQ(LeeFichero(trabajo + "123.BMP"), "cambiada");
     EXPECT_FALSE(fs::exists(trabajo + "OTRO.JPG"));
-    EXPECT_FALSE(fs::exists(trabajo + "CATEDRAL.JPG")); // missing: skipped
+    EXPECT_FALSE(fs::exists(trabajo + "CATEDRAL.JPG"));
 
     // The game went on from the copy; a second start copies nothing again.
     EscribeFichero(trabajo + "TESEL32.INI", "partida siguiente");
-    EscribeFichero(trabajo + "TESEL32.HIS", "historia siguiente");
     fs::remove(trabajo + "CASA.JPG");
     DirectorioTrabajo = programa;
     CompruebaSiCD();
     EXPECT_EQ(DirectorioTrabajo, trabajo);
     EXPECT_EQ(LeeFichero(trabajo + "TESEL32.INI"), "partida siguiente");
-    EXPECT_EQ(LeeFichero(trabajo + "TESEL32.HIS"), "historia siguiente");
     EXPECT_FALSE(fs::exists(trabajo + "CASA.JPG"));
 }
 
