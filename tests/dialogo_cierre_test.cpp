@@ -22,7 +22,6 @@ struct Cambio {
 };
 
 const Cambio cambios[] = {
-    {"nada", [](FormAbrirFic &) {}, false, false, false},
     {"imagen", [](FormAbrirFic &f) { f.File1.PonListIndex(1); }, true, true, false},
     {"rejilla", [](FormAbrirFic &f) { f.Lis_NroPiezas.PonListIndex(0); }, true, true, false},
     {"forma", [](FormAbrirFic &f) { f.Pic_TipPuz_Click(4); }, true, true, false},
