@@ -46,22 +46,15 @@ class Libro : public Historia {
         return p;
     }
     // The sections whose tabs the patch on margin `lado` (1 left, 2 right)
-    // leaves uncovered.
-    static std::vector<int> PestanasVisibles(const FormHistoric &f, int lado) {
+    // leaves uncovered, as digits: "12" for sections 1 and 2.
+    static std::string PestanasVisibles(const FormHistoric &f, int lado) {
         const CuadroImagen &t = f.Pic_Tapa[static_cast<size_t>(lado)];
-        std::vector<int> v;
+        std::string v;
         for (int s = 1; s <= 4; ++s) {
             const int arriba = 30 + 72 * (s - 1), abajo = arriba + 66;
             if (abajo < t.Top || arriba >= t.Top + t.Alto()) {
-                v.push_back(s);
+                v += static_cast<char>('0' + s);
             }
-        }
-        return v;
-    }
-    static std::vector<int> Secciones(int desde, int hasta) {
-        std::vector<int> v;
-        for (int s = desde; s <= hasta; ++s) {
-            v.push_back(s);
         }
         return v;
     }
@@ -150,8 +143,8 @@ TEST_P(Paginas, AdelanteYAtrasPorTodoElLibro) {
             f.PaginaSiguiente();
             ASSERT_EQ(f.MarcaLibro, s);
             EXPECT_EQ(f.ContadorPagina, 2 * p);
-            EXPECT_EQ(PestanasVisibles(f, 1), Secciones(1, s));
-            EXPECT_EQ(PestanasVisibles(f, 2), Secciones(s + 1, 4));
+            EXPECT_EQ(PestanasVisibles(f, 1), std::string("1234").substr(0, s));
+            EXPECT_EQ(PestanasVisibles(f, 2), std::string("1234").substr(s));
             EXPECT_TRUE(f.Pic_Parche1.Visible);
             const auto [izquierda, derecha] = Pliego();
             EXPECT_EQ(izquierda != 0, 2 * p - 1 <= n);
@@ -174,7 +167,7 @@ TEST_P(Paginas, AdelanteYAtrasPorTodoElLibro) {
     EXPECT_EQ(f.MarcaLibro, 0);
     EXPECT_TRUE(f.Tex_Nombre.Visible);
     EXPECT_FALSE(f.Pic_Parche1.Visible);
-    EXPECT_EQ(PestanasVisibles(f, 2), Secciones(1, 4));
+    EXPECT_EQ(PestanasVisibles(f, 2), "1234");
     EXPECT_EQ(f.Pic_Tapa[1].Left, 3);
     EXPECT_EQ(f.Pic_Tapa[2].Left, 512);
     f.PaginaAnterior();

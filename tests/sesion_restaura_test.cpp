@@ -2,6 +2,7 @@
 // that is gone or does not fit, and the first start.
 #include "sesion_comun.h"
 #include "session/SesionImagen.h"
+#include "session/SesionTexto.h"
 
 using namespace PuzzGbl;
 using namespace sesion_prueba;
@@ -155,11 +156,16 @@ TEST_P(SesionImagenQueNoSirve, SeAnunciaYQuedaEnBlanco) {
     if (c.contenido != nullptr) {
         EscribeFichero(foto, c.contenido);
     }
-    std::string ini = BloquesDeAjustes(foto, c.zoom, 3, 0, {50, 2, 2, 50, 1, 1});
+    FicheroImagen = foto;
+    Zoom = static_cast<int16_t>(c.zoom);
+    ColorFondo = 2;
+    std::string ini = TextoSesion();
     if (c.soloBloque1) {
         ini = DivideLineas(ini)[0] + "\r\n";
     }
-    EscribeFichero(programa + "/TESEL32.INI", AWindows1252(ini));
+    EscribeFichero(programa + "/TESEL32.INI", ini);
+    PreparaPantalla();
+    DirectorioTrabajo = programa;
     RestauraSesion();
     ASSERT_EQ(mensajes.size(), 1u);
     EXPECT_EQ(ColorFondo, 2); // read before any fault: in force
@@ -191,9 +197,10 @@ INSTANTIATE_TEST_SUITE_P(Limites, SesionImagenQueNoSirve, ::testing::ValuesIn(CA
 TEST_F(Sesion, FueraDeLaCarpetaDelProgramaElDialogoAbreEnLaDeTrabajo) {
     const std::string trabajo = datos + "/teselari/";
     fs::create_directories(trabajo);
-    const std::string foto = programa + "/foto.img";
-    EscribeImagen(foto, 400, 300);
-    EscribeFichero(trabajo + "TESEL32.INI", BloquesDeAjustes(foto, 100, 3, 0));
+    JuegaPartida(3, 0);
+    DirectorioTrabajo = trabajo;
+    GuardaSesion();
+    PreparaPantalla();
     DirectorioTrabajo = trabajo;
     RestauraSesion();
     EXPECT_TRUE(mensajes.empty());
@@ -204,11 +211,10 @@ TEST_F(Sesion, FueraDeLaCarpetaDelProgramaElDialogoAbreEnLaDeTrabajo) {
 // A saved game written on Windows names drive "C:": it is not kept, and the
 // next save names the working folder's volume.
 TEST_F(Sesion, UnaUnidadQueNoEstaNoVuelveAlFichero) {
-    const std::string foto = programa + "/foto.img";
-    EscribeImagen(foto, 400, 300);
-    std::string ini = BloquesDeAjustes(foto, 100, 3, 0);
-    ini.replace(ini.find(",\"/\",\"/tmp\""), 12, ",\"C:\",\"/tmp\"");
-    EscribeFichero(programa + "/TESEL32.INI", ini);
+    JuegaPartida(3, 0);
+    UnidadImagen = "C:";
+    GuardaSesion();
+    PreparaPantalla();
     DirectorioTrabajo = programa;
     RestauraSesion();
     EXPECT_EQ(UnidadImagen, UnidadDeCarpeta(programa));
