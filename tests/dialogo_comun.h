@@ -48,8 +48,9 @@ inline void CargaTiraDePrueba(Superficie &tira) {
 
 } // namespace dialogo_prueba
 
-// A game of a 640 x 480 picture "a.bmp" in the folder "fotos", at zoom
-// 100, 8 x 8 pieces with knobs; full speed, so that no wait is felt.
+// A game of a 640 x 480 picture "a.bmp" in the folder "fotos", with a first
+// run's settings (zoom 100, 8 x 8 pieces with knobs) but full speed, so
+// that no wait is felt.
 class Dialogo : public Sesion {
   protected:
     void SetUp() override {
@@ -66,15 +67,10 @@ class Dialogo : public Sesion {
         PonImagen("a.bmp", 640, 480);
         using namespace PuzzGbl;
         Velocidad = 100;
-        Sonido = 1;
         FicheroImagen = fotos + "/a.bmp";
         NombreImagen = "a.bmp";
         CarpetaImagen = fotos;
         UnidadImagen = UnidadDeCarpeta(fotos);
-        Zoom = 100;
-        PiezasPorLado = 8;
-        TipoPieza = 1;
-        PiezasDobles = 0;
         ImagenValida = VERDADERO;
         CargaImagen(FicheroImagen, teselari.Pic_Origin);
         CalculaPiezas();

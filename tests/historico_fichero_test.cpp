@@ -202,8 +202,7 @@ TEST_F(Final, UnaPartidaLimpiaEntraUnaVez) {
     TerminaLaPartida();
     ASSERT_EQ(Mensajes(), std::vector<std::string>{"Ha conseguido resolver el puzzle"});
     EXPECT_EQ(PartidaValida, FALSO);
-    const std::string esperada = "\"23/11/2026\",\"18:05:09\",\"Mu\xF1"
-                                 "eca '\xD1' d\",300,300,3,0,"
+    const std::string esperada = "\"23/11/2026\",\"18:05:09\",\"Mu\361eca '\321' d\",300,300,3,0,"
                                  "9,100,100,";
     const std::string fichero = LeeFichero(Ruta());
     ASSERT_EQ(fichero.rfind(SinFinal(LINEA_1) + "\r\n" + esperada, 0), 0u) << fichero;
@@ -211,8 +210,7 @@ TEST_F(Final, UnaPartidaLimpiaEntraUnaVez) {
     float leida = 0;
     const auto fin = std::from_chars(resto.data(), resto.data() + resto.size(), leida);
     EXPECT_EQ(leida, Dificultad);
-    EXPECT_EQ(std::string(fin.ptr), ",3725,50,\"Luc\xED"
-                                    "a    \"\r\n");
+    EXPECT_EQ(std::string(fin.ptr), ",3725,50,\"Luc\355a    \"\r\n");
 
     const std::vector<RegistroHistorico> tabla(Historico.begin() + 1, Historico.begin() + 3);
     LeeHistorico();
