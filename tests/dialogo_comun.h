@@ -20,6 +20,9 @@
 
 namespace dialogo_prueba {
 
+// The places of the arrows on a stepper panel.
+constexpr float SUBE_X = 120, SUBE_Y = 30, BAJA_X = 120, BAJA_Y = 46;
+
 // The session tests' loader, and the clipboard's picture that GuardaBmp
 // wrote, at the size its header states, painted as the clipboard's double
 // paints it.

@@ -175,19 +175,13 @@ TEST_F(Dialogo, File1ListaLasImagenesOrdenadasSinMayusculas) {
 
 // --- clipboard ---
 
-namespace {
-bool ConImagen() {
-    return true;
-}
-bool TomaImagen(Superficie &s) {
-    PintaImagenGenerada(s, 400, 300);
-    return true;
-}
-} // namespace
-
 TEST_F(Dialogo, ElPortapapelesPasaPorTeseportComoCualquierFichero) {
     PonServicio(&ServiciosPlataforma::Dialogo,
-                {dialogo_prueba::MuestraModalDePrueba, nullptr, ConImagen, TomaImagen});
+                {dialogo_prueba::MuestraModalDePrueba, nullptr, [] { return true; },
+                 [](Superficie &s) {
+                     PintaImagenGenerada(s, 400, 300);
+                     return true;
+                 }});
     Abre();
     EXPECT_TRUE(f->Bot_Portapapeles.Enabled);
     f->Bot_Portapapeles_Click();

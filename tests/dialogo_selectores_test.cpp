@@ -5,15 +5,9 @@
 #include "plataforma_prueba.h"
 
 using namespace PuzzGbl;
+using namespace dialogo_prueba;
 using sesion_prueba::mensajes;
 using sesion_prueba::sonidos;
-
-namespace {
-
-// The places of the arrows on a stepper panel.
-constexpr float SUBE_X = 120, SUBE_Y = 30, BAJA_X = 120, BAJA_Y = 46;
-
-} // namespace
 
 // The grids offered are always a run, so the nearest is the one asked for
 // or the end of the run on its side.
@@ -86,14 +80,11 @@ TEST_F(Dialogo, ElFactorCaeEnMultiploDe5YRespetaLosTopes) {
     }
 }
 
-namespace {
-FormAbrirFic *enPrueba = nullptr;
-int vueltas = 0;
-} // namespace
-
 TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
     Velocidad = 80;
     Abre();
+    static FormAbrirFic *enPrueba;
+    static int vueltas;
     enPrueba = f.get();
     vueltas = 0;
     // The event loop of this test: the button is released after 15 turns.

@@ -237,14 +237,12 @@ TEST_F(Libro, CadaValorEnSuRenglonYDentroDeSuColumna) {
     Dificultad = 42.0625f;
     SegundosCronometro = 3725;
     PartidaValida = VERDADERO;
-    PuzzleCompleto = FALSO;
     RegistroHistorico r = RegistroNumerado(1, "Eva", "CASA.JPG", 99.9f, 3661);
     r.TipoPieza = 9;
     Llena({r});
     NombreJugador = "Ana      ";
     FormHistoric f;
     f.Form_Load();
-    EXPECT_TRUE(f.Tex_Nombre.Visible);
     EXPECT_EQ(f.Tex_Nombre.Text, "Ana");
     for (const auto &[tecleado, nuevo] : {std::pair<std::string, std::string>{"Lucía", "Lucía    "},
                                           {"Bartolomé Pérez", "Bartolomé"}}) {

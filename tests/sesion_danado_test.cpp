@@ -111,7 +111,6 @@ TEST_F(SesionDanada, LoQueNoSeLeeNoImpideRestaurar) {
         DirectorioTrabajo = programa;
         EscribeFichero(programa + "/TESEL32.INI", fichero);
         RestauraSesion();
-        EXPECT_EQ(NroPiezas, 16);
         EXPECT_EQ(SegundosCronometro, 999);
         EXPECT_TRUE(PartidaCoherente());
     }

@@ -61,24 +61,22 @@ TEST_F(Sesion, UnaCarpetaBajoUnFicheroTambienPasaALaDeDatos) {
 }
 
 TEST_F(Sesion, LaCarpetaDeDatosSigueAXdgOALaCarpetaPersonal) {
-    struct Caso {
-        const char *xdg; // nullptr: unset
-        std::string esperado;
-    };
     setenv("HOME", (raiz + "/casa").c_str(), 1);
-    const Caso casos[] = {
+    // XDG_DATA_HOME unset (nullptr), or relative and so not valid, leads to
+    // the home folder.
+    const std::pair<const char *, std::string> casos[] = {
         {"/var/datos", "/var/datos/teselari/"},
         {"/var/datos/", "/var/datos/teselari/"},
         {nullptr, raiz + "/casa/.local/share/teselari/"},
-        {"relativa/datos", raiz + "/casa/.local/share/teselari/"}, // not valid: passed over
+        {"relativa/datos", raiz + "/casa/.local/share/teselari/"},
     };
-    for (const Caso &c : casos) {
-        if (c.xdg != nullptr) {
-            setenv("XDG_DATA_HOME", c.xdg, 1);
+    for (const auto &[variable, esperado] : casos) {
+        if (variable != nullptr) {
+            setenv("XDG_DATA_HOME", variable, 1);
         } else {
             unsetenv("XDG_DATA_HOME");
         }
-        EXPECT_EQ(DirectorioDatos(), c.esperado) << (c.xdg ? c.xdg : "(unset)");
+        EXPECT_EQ(DirectorioDatos(), esperado) << (variable ? variable : "(unset)");
     }
 }
 
@@ -92,18 +90,15 @@ TEST_F(Sesion, LaCarpetaDelProgramaSeGuardaSinBarraFinal) {
 }
 
 TEST_F(Sesion, LaCarpetaDelProgramaInstaladoEsLaDeDatosJuntoAlEjecutable) {
-    fs::create_directories(raiz + "/usr/bin");
+    const std::string bin = raiz + "/usr/bin";
+    fs::create_directories(bin);
     fs::create_directories(raiz + "/usr/share/teselari");
-    struct Caso {
-        std::string ejecutable, relativa, esperada;
-    };
-    const Caso casos[] = {
-        {raiz + "/usr/bin", "../share/teselari", raiz + "/usr/share/teselari"},
-        {raiz + "/usr/bin", "../share/otra", raiz + "/usr/bin"}, // not installed: the build tree
-        {raiz + "/usr/bin", "", raiz + "/usr/bin"},
-    };
-    for (const Caso &c : casos) {
-        EXPECT_EQ(CarpetaDelPrograma(c.ejecutable, c.relativa), c.esperada) << c.relativa;
+    // Where the data folder is not there, the program runs from its build
+    // tree.
+    const std::pair<const char *, std::string> casos[] = {
+        {"../share/teselari", raiz + "/usr/share/teselari"}, {"../share/otra", bin}, {"", bin}};
+    for (const auto &[relativa, esperada] : casos) {
+        EXPECT_EQ(CarpetaDelPrograma(bin, relativa), esperada) << relativa;
     }
 }
 
