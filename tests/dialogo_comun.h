@@ -20,6 +20,9 @@
 
 namespace dialogo_prueba {
 
+// The places of the arrows on a stepper panel.
+constexpr float SUBE_X = 120, SUBE_Y = 30, BAJA_X = 120, BAJA_Y = 46;
+
 // The session tests' loader, and the clipboard's picture that GuardaBmp
 // wrote, at the size its header states, painted as the clipboard's double
 // paints it.
@@ -48,8 +51,9 @@ inline void CargaTiraDePrueba(Superficie &tira) {
 
 } // namespace dialogo_prueba
 
-// A game of a 640 x 480 picture "a.bmp" in the folder "fotos", at zoom
-// 100, 8 x 8 pieces with knobs; full speed, so that no wait is felt.
+// A game of a 640 x 480 picture "a.bmp" in the folder "fotos", with a first
+// run's settings (zoom 100, 8 x 8 pieces with knobs) but full speed, so
+// that no wait is felt.
 class Dialogo : public Sesion {
   protected:
     void SetUp() override {
@@ -66,15 +70,10 @@ class Dialogo : public Sesion {
         PonImagen("a.bmp", 640, 480);
         using namespace PuzzGbl;
         Velocidad = 100;
-        Sonido = 1;
         FicheroImagen = fotos + "/a.bmp";
         NombreImagen = "a.bmp";
         CarpetaImagen = fotos;
         UnidadImagen = UnidadDeCarpeta(fotos);
-        Zoom = 100;
-        PiezasPorLado = 8;
-        TipoPieza = 1;
-        PiezasDobles = 0;
         ImagenValida = VERDADERO;
         CargaImagen(FicheroImagen, teselari.Pic_Origin);
         CalculaPiezas();

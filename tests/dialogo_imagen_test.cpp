@@ -41,7 +41,6 @@ TEST_P(ZoomDeFichero, LlevaLaImagenALosLimitesORechaza) {
     AbreConImagen("z.bmp", c.w, c.h);
     EXPECT_EQ(Zoom, c.zoom);
     EXPECT_EQ(ImagenValida, c.valida ? VERDADERO : FALSO);
-    EXPECT_EQ(NombreImagen, "z.bmp");
     EXPECT_EQ(FicheroImagen, fotos + "/z.bmp");
     EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.origenW);
     EXPECT_EQ(teselari.Pic_Origin.Alto(), c.origenH);
@@ -89,10 +88,16 @@ TEST_F(Dialogo, ElZoomCuentaConElTamanoDelFichero) {
         EXPECT_EQ(mensajes[0].titulo, "Imagen fuera de límites");
         EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.origenW);
         EXPECT_EQ(teselari.Pic_Origin.Alto(), c.origenH);
-        // A step up is checked against the file's size too, and taken back.
+        // A step up is checked against the file's size too: shown, then
+        // taken back with the zoom's own message.
+        std::vector<int16_t> vistos;
+        f->AlRefrescar = [&vistos] { vistos.push_back(Zoom); };
         f->Pic_Zoom_MouseDown(1, 0, 120, 30);
+        EXPECT_NE(std::find(vistos.begin(), vistos.end(), c.zoom + 5), vistos.end());
         EXPECT_EQ(Zoom, c.zoom);
-        EXPECT_EQ(mensajes.size(), 2u);
+        EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcZoom), std::to_string(c.zoom) + "%");
+        ASSERT_EQ(mensajes.size(), 2u);
+        EXPECT_EQ(mensajes[1].lineas, 6);
         EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.origenW);
     }
 }
@@ -170,19 +175,13 @@ TEST_F(Dialogo, File1ListaLasImagenesOrdenadasSinMayusculas) {
 
 // --- clipboard ---
 
-namespace {
-bool ConImagen() {
-    return true;
-}
-bool TomaImagen(Superficie &s) {
-    PintaImagenGenerada(s, 400, 300);
-    return true;
-}
-} // namespace
-
 TEST_F(Dialogo, ElPortapapelesPasaPorTeseportComoCualquierFichero) {
     PonServicio(&ServiciosPlataforma::Dialogo,
-                {dialogo_prueba::MuestraModalDePrueba, nullptr, ConImagen, TomaImagen});
+                {dialogo_prueba::MuestraModalDePrueba, nullptr, [] { return true; },
+                 [](Superficie &s) {
+                     PintaImagenGenerada(s, 400, 300);
+                     return true;
+                 }});
     Abre();
     EXPECT_TRUE(f->Bot_Portapapeles.Enabled);
     f->Bot_Portapapeles_Click();

@@ -5,43 +5,16 @@
 #include "plataforma_prueba.h"
 
 using namespace PuzzGbl;
+using namespace dialogo_prueba;
 using sesion_prueba::mensajes;
 using sesion_prueba::sonidos;
 
-namespace {
-
-// The places of the arrows on a stepper panel.
-constexpr float SUBE_X = 120, SUBE_Y = 30, BAJA_X = 120, BAJA_Y = 46;
-
-} // namespace
-
-TEST(Rejillas, CeldasEntre24Y140SinHuecos) {
-    const struct {
-        int32_t w, h;
-        int16_t primera, ultima;
-    } casos[] = {{320, 240, 3, 10},  {640, 480, 5, 20}, {800, 600, 6, 20},
-                 {1024, 768, 8, 20}, {608, 456, 5, 19}, {972, 729, 7, 20}};
-    for (const auto &c : casos) {
-        const std::vector<int16_t> o = RejillasOfrecidas(c.w, c.h);
-        ASSERT_FALSE(o.empty()) << c.w;
-        EXPECT_EQ(o.front(), c.primera) << c.w;
-        EXPECT_EQ(o.back(), c.ultima) << c.w;
-        EXPECT_EQ(o.size(), static_cast<size_t>(c.ultima - c.primera + 1)) << c.w;
-    }
-}
-
-TEST(RejillaCercana, LaMasProximaYEnEmpateLaMayor) {
-    const std::vector<int16_t> huecos{9, 11};
-    const std::vector<int16_t> seguidas{3, 4, 5, 6, 7, 8, 9, 10};
-    struct Caso {
-        const std::vector<int16_t> &ofrecidas;
-        int16_t actual;
-        int32_t indice;
-    };
-    const Caso casos[] = {{huecos, 10, 1}, {huecos, 9, 0},    {huecos, 3, 0},
-                          {huecos, 20, 1}, {seguidas, 20, 7}, {seguidas, 6, 3}};
-    for (const Caso &c : casos) {
-        EXPECT_EQ(RejillaCercana(c.ofrecidas, c.actual), c.indice) << c.actual;
+// The grids offered are always a run, so the nearest is the one asked for
+// or the end of the run on its side.
+TEST(RejillaCercana, LaMasProximaDeLasOfrecidas) {
+    const std::vector<int16_t> ofrecidas{5, 6, 7, 8};
+    for (const auto &[actual, indice] : {std::pair<int16_t, int32_t>{3, 0}, {7, 2}, {20, 3}}) {
+        EXPECT_EQ(RejillaCercana(ofrecidas, actual), indice) << actual;
     }
     EXPECT_EQ(RejillaCercana({}, 8), -1);
 }
@@ -75,32 +48,43 @@ TEST_F(Dialogo, LaListaSeAjustaALaImagenYConservaLaRejilla) {
     EXPECT_EQ(f->Lis_NroPiezas.ListCount(), 8);
 }
 
-// Without an event loop a press takes one step.
+// Without an event loop a press takes one step; a press beside the arrows,
+// or on a corner of an arrow's image in the panel's grey, takes none.
 TEST_F(Dialogo, ElFactorCaeEnMultiploDe5YRespetaLosTopes) {
     const struct {
         int16_t desde;
-        bool sube;
+        float x, y;
         int16_t hasta;
-    } casos[] = {{52, true, 55}, {52, false, 45}, {50, true, 55},
-                 {3, false, 0},  {0, false, 0},   {98, true, 100}};
+        bool gris = false;
+    } casos[] = {{52, SUBE_X, SUBE_Y, 55},
+                 {52, BAJA_X, BAJA_Y, 45},
+                 {50, SUBE_X, SUBE_Y, 55},
+                 {3, BAJA_X, BAJA_Y, 0},
+                 {0, BAJA_X, BAJA_Y, 0},
+                 {98, SUBE_X, SUBE_Y, 100},
+                 {50, 113, 30, 50},
+                 {50, 139, 30, 50},
+                 {50, 120, 24, 50},
+                 {50, 60, 30, 50},
+                 {50, SUBE_X, SUBE_Y, 50, true}};
     for (const auto &c : casos) {
         FactorPegado = c.desde;
         Abre();
-        f->Pic_FactorPegado_MouseDown(1, 0, c.sube ? SUBE_X : BAJA_X, c.sube ? SUBE_Y : BAJA_Y);
-        EXPECT_EQ(FactorPegado, c.hasta) << c.desde;
+        if (c.gris) {
+            f->Pic_FactorPegado.PSet(c.x, c.y, 0xC0C0C0);
+        }
+        f->Pic_FactorPegado_MouseDown(1, 0, c.x, c.y);
+        EXPECT_EQ(FactorPegado, c.hasta) << c.desde << " " << c.x << "," << c.y;
         EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcFactorPegado), std::to_string(c.hasta) + "%");
         EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 2), c.desde == c.hasta ? 0 : 1);
     }
 }
 
-namespace {
-FormAbrirFic *enPrueba = nullptr;
-int vueltas = 0;
-} // namespace
-
 TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
     Velocidad = 80;
     Abre();
+    static FormAbrirFic *enPrueba;
+    static int vueltas;
     enPrueba = f.get();
     vueltas = 0;
     // The event loop of this test: the button is released after 15 turns.
@@ -123,54 +107,20 @@ TEST_F(Dialogo, ElRepiteAvanzaHastaSoltarYSeQuedaEnElTope) {
     EXPECT_EQ(f->PasoVelocidad.Bajando, FALSO);
 }
 
-TEST_F(Dialogo, UnaPulsacionJuntoALaFlechaNoEsPaso) {
-    Abre();
-    const int16_t factor = FactorPegado;
-    for (auto [x, y] : {std::pair{113.f, 30.f}, {139.f, 30.f}, {120.f, 24.f}, {60.f, 30.f}}) {
-        f->Pic_FactorPegado_MouseDown(1, 0, x, y);
-    }
-    // A corner of the arrow's image in the panel's grey is no hit either.
-    f->Pic_FactorPegado.PSet(SUBE_X, SUBE_Y, 0xC0C0C0);
-    f->Pic_FactorPegado_MouseDown(1, 0, SUBE_X, SUBE_Y);
-    EXPECT_EQ(FactorPegado, factor);
-}
-
-TEST_F(Dialogo, ElZoomQueSaleDeLosLimitesVuelveAtrasConMensaje) {
-    AbreConImagen("g.bmp", 1000, 700);
-    std::vector<int16_t> vistos;
-    f->AlRefrescar = [&vistos] { vistos.push_back(Zoom); };
-    mensajes.clear();
-    f->Pic_Zoom_MouseDown(1, 0, SUBE_X, SUBE_Y);
-    EXPECT_NE(std::find(vistos.begin(), vistos.end(), 105), vistos.end());
-    EXPECT_EQ(Zoom, 100);
-    EXPECT_EQ(rotulador.Ultimo(f->Pic_PorcZoom), "100%");
-    ASSERT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(mensajes[0].titulo, "Imagen fuera de límites");
-    EXPECT_EQ(mensajes[0].lineas, 6);
-    EXPECT_NE(mensajes[0].texto.find("pixels de altura" + NuevaLinea), std::string::npos);
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 1000);
-}
-
+// At 95 the picture is 608 x 456: a 20 x 20 grid would cut cells below
+// 24 pixels, and the nearest grid left is 19.
 TEST_F(Dialogo, AlSoltarElZoomSeReconstruyenImagenYLista) {
-    const struct {
-        int32_t w, h;
-        int16_t lado; // the grid before the step down to 95
-        int16_t primera, ultima, ladoDespues;
-    } casos[] = {{640, 480, 20, 5, 19, 19}, {1024, 768, 8, 7, 20, 8}};
-    for (const auto &c : casos) {
-        PiezasPorLado = c.lado;
-        Zoom = 100;
-        AbreConImagen("z.bmp", c.w, c.h);
-        sonidos.clear();
-        f->Pic_Zoom_MouseDown(1, 0, BAJA_X, BAJA_Y);
-        EXPECT_EQ(Zoom, 95);
-        EXPECT_EQ(teselari.Pic_Origin.Ancho(), c.w * 95 / 100);
-        EXPECT_EQ(f->Lis_NroPiezas.List(0), CadenaFija(TextoNroPiezas[c.primera], 14));
-        EXPECT_EQ(f->Lis_NroPiezas.ListCount(), c.ultima - c.primera + 1);
-        EXPECT_EQ(PiezasPorLado, c.ladoDespues);
-        // The row is clicked again, and heard: the zoom is not a file click.
-        EXPECT_EQ(sonidos.back(), 12);
-    }
+    PiezasPorLado = 20;
+    Abre();
+    sonidos.clear();
+    f->Pic_Zoom_MouseDown(1, 0, BAJA_X, BAJA_Y);
+    EXPECT_EQ(Zoom, 95);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 608);
+    EXPECT_EQ(f->Lis_NroPiezas.List(0), CadenaFija(TextoNroPiezas[5], 14));
+    EXPECT_EQ(f->Lis_NroPiezas.ListCount(), 15);
+    EXPECT_EQ(PiezasPorLado, 19);
+    // The row is clicked again, and heard: the zoom is not a file click.
+    EXPECT_EQ(sonidos.back(), 12);
 }
 
 // K = Int((100 - FactorPegado) x 26 / 100): the piece walks K + 15 steps,

@@ -16,10 +16,6 @@
 #include "plataforma_prueba.h"
 #include "tablero_comun.h"
 
-inline FechaHora RelojFijo() {
-    return {"23/11/2026", "18:05:09"};
-}
-
 // Record i: its number in Fecha ("R7") and in Segundos, so that any place
 // of it shows which record it is.
 inline RegistroHistorico RegistroNumerado(int i, const std::string &nombre = "Ana",
@@ -86,7 +82,10 @@ class Historia : public ::testing::Test {
         carpeta = plantilla;
         PuzzGbl::DirectorioTrabajo = carpeta;
         InstalaEscritorio();
-        PonServicio(&ServiciosPlataforma::Calendario, RelojFijo);
+        PonServicio(
+            &ServiciosPlataforma::Calendario, +[] {
+                return FechaHora{"23/11/2026", "18:05:09"};
+            });
     }
     void TearDown() override {
         SimulaFalloEscritura(-1);

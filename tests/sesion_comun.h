@@ -93,28 +93,6 @@ inline ::testing::AssertionResult PartidaCoherente() {
     return ::testing::AssertionSuccess();
 }
 
-// Block 1 to 3 of a file written by hand: the picture, its zoom and grid;
-// the other settings as `ajustes` gives them (FactorPegado, ColorFondo,
-// Cronometro, Velocidad, Sonido, Pistas).
-inline std::string BloquesDeAjustes(const std::string &fichero, int zoom, int lado, int tipo,
-                                    std::array<int, 6> ajustes = {50, 3, 2, 50, 1, 1}) {
-    auto n = [](int v) { return std::to_string(v); };
-    std::string t = "\"";
-    t += fichero;
-    t += "\",";
-    t += n(ajustes[0]) + "," + n(ajustes[1]) + "," + n(ajustes[2]);
-    t += ",#FALSE#,\"Pepe     \",";
-    t += n(ajustes[3]) + "," + n(ajustes[4]) + "," + n(ajustes[5]);
-    t += "\r\n";
-    for (int i = 1; i <= 11; ++i) {
-        t += "#TRUE#,#FALSE#\r\n";
-    }
-    t += "\"foto\",9,";
-    t += n(lado) + ",0," + n(tipo) + ",-1,77," + n(zoom);
-    t += ",\"/\",\"/tmp\"\r\n";
-    return t;
-}
-
 // Restores an environment variable on leaving.
 class VariableGuardada {
   public:

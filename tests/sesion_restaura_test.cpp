@@ -2,17 +2,13 @@
 // that is gone or does not fit, and the first start.
 #include "sesion_comun.h"
 #include "session/SesionImagen.h"
+#include "session/SesionTexto.h"
 
 using namespace PuzzGbl;
 using namespace sesion_prueba;
 namespace fs = std::filesystem;
 
 namespace {
-
-const char TITULO_ERROR[] = "Error leyendo fichero de datos iniciales";
-const char TEXTO_53[] =
-    "No se encuentra el fichero de inicialización con los datos de la última "
-    "sesión. Cargue desde el disco una imagen que sirva de fondo para el puzzle.";
 
 // Each setting: its value on a first run, and one away from it.
 struct Ajuste {
@@ -30,9 +26,7 @@ void EsperaAjustesDePrimeraVez() {
     for (const Ajuste &a : AJUSTES) {
         EXPECT_EQ(*a.valor, a.primeraVez) << a.cambiado;
     }
-    for (int i = 1; i <= 11; ++i) {
-        EXPECT_TRUE(BotonEnSiempre[i]) << i;
-    }
+    EXPECT_TRUE(BotonEnSiempre[4]);
 }
 
 void CambiaAjustes() {
@@ -42,36 +36,6 @@ void CambiaAjustes() {
     BotonEnSiempre[4] = false;
 }
 
-TEST_F(Sesion, SinFicheroEmpiezaDeCeroConLaPrimeraMuestraQueSirve) {
-    // The samples in the order of the program's files: a missing one, one
-    // that can't be read, one too large, then one that serves.
-    EscribeFichero(programa + "/FORMAS.BMP", "no es una imagen");
-    EscribeImagen(programa + "/CAMPANA.JPG", 2000, 1500);
-    EscribeImagen(programa + "/CASA.JPG", 400, 300);
-    EscribeImagen(programa + "/TRANVIA.JPG", 640, 480);
-    CambiaAjustes();
-    RestauraSesion();
-
-    ASSERT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(mensajes[0].titulo, TITULO_ERROR);
-    EXPECT_EQ(mensajes[0].texto, TEXTO_53);
-    EXPECT_EQ(mensajes[0].lineas, 3);
-    EXPECT_EQ(ErrorFichero, 53);
-    EsperaAjustesDePrimeraVez();
-    EXPECT_EQ(UnidadImagen, UnidadDeCarpeta(programa));
-    EXPECT_EQ(CarpetaImagen, programa);
-    EXPECT_EQ(FicheroImagen, programa + "/CASA.JPG");
-    EXPECT_EQ(NombreImagen, "CASA.JPG");
-    EXPECT_EQ(ImagenValida, VERDADERO);
-    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 400);
-    EXPECT_EQ(teselari.Pic_Origin.Alto(), 300);
-    EXPECT_EQ(teselari.Pic_W.Ancho(), 0); // the full-size copy is let go
-    EXPECT_EQ(NroPiezas, 64);
-    EXPECT_TRUE(PartidaCoherente());
-    EXPECT_EQ(PartidaValida, VERDADERO); // a real deal
-    EXPECT_EQ(teselari.MousePointer, 0);
-}
-
 struct CasoError {
     const char *nombre;
     void (*prepara)(const std::string &raiz, const std::string &programa);
@@ -79,7 +43,20 @@ struct CasoError {
     const char *texto;
 };
 
+// Without a file the samples are tried in the order of the program's files:
+// a missing one, one that can't be read, one too large, then one that
+// serves. After any other fault the board is left blank.
 const CasoError CASOS_ERROR[] = {
+    {"SinFichero",
+     [](const std::string &, const std::string &programa) {
+         EscribeFichero(programa + "/FORMAS.BMP", "no es una imagen");
+         EscribeImagen(programa + "/CAMPANA.JPG", 2000, 1500);
+         EscribeImagen(programa + "/CASA.JPG", 400, 300);
+         EscribeImagen(programa + "/TRANVIA.JPG", 640, 480);
+     },
+     53,
+     "No se encuentra el fichero de inicialización con los datos de la última sesión. Cargue "
+     "desde el disco una imagen que sirva de fondo para el puzzle."},
     {"CarpetaQueNoExiste",
      [](const std::string &raiz, const std::string &) { DirectorioTrabajo = raiz + "/no/existe"; },
      76, "INI ERROR 76: No existe el fichero de inicialización"},
@@ -98,15 +75,26 @@ TEST_P(SesionError, UnMensajeYElPrimerInicio) {
     c.prepara(raiz, programa);
     RestauraSesion();
     ASSERT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(mensajes[0].titulo, TITULO_ERROR);
+    EXPECT_EQ(mensajes[0].titulo, "Error leyendo fichero de datos iniciales");
     EXPECT_EQ(mensajes[0].texto, c.texto);
     EXPECT_EQ(mensajes[0].lineas, 3);
     EXPECT_EQ(ErrorFichero, c.numero);
     EsperaAjustesDePrimeraVez();
-    // No sample picture either: a blank board.
-    EXPECT_EQ(ImagenValida, FALSO);
-    EXPECT_EQ(teselari.Pic_Origin.Point(100, 100), COLOR_BLANCO);
     EXPECT_TRUE(PartidaCoherente());
+    EXPECT_EQ(UnidadImagen, UnidadDeCarpeta(DirectorioTrabajo));
+    EXPECT_EQ(CarpetaImagen, DirectorioTrabajo);
+    EXPECT_EQ(teselari.MousePointer, 0);
+    if (c.numero != 53) {
+        EXPECT_EQ(ImagenValida, FALSO);
+        EXPECT_EQ(teselari.Pic_Origin.Point(100, 100), COLOR_BLANCO);
+        return;
+    }
+    EXPECT_EQ(FicheroImagen, programa + "/CASA.JPG");
+    EXPECT_EQ(ImagenValida, VERDADERO);
+    EXPECT_EQ(teselari.Pic_Origin.Ancho(), 400);
+    EXPECT_EQ(teselari.Pic_Origin.Alto(), 300);
+    EXPECT_EQ(teselari.Pic_W.Ancho(), 0); // the full-size copy is let go
+    EXPECT_EQ(PartidaValida, VERDADERO);  // a real deal
 }
 
 INSTANTIATE_TEST_SUITE_P(Errores, SesionError, ::testing::ValuesIn(CASOS_ERROR),
@@ -132,11 +120,21 @@ struct CasoImagen {
     bool soloBloque1 = false; // the saved game cut after its first line
 };
 
+std::string TextoImagenPerdida(const std::string &fichero) {
+    std::string t = "No  se  encuentra  la  imagen  utilizada  en  la  última  sesión:\r\n\r\n";
+    t += fichero;
+    t +=
+        "\r\n\r\nCargue  desde  el  disco  una  imagen  que  sirva  de  fondo\r\npara  el  puzzle.";
+    return t;
+}
+
 // The refusal tells the size at the zoom, also of a picture stating a size
 // too large to decode, even where the zoom would bring it within the
 // limits; a picture that can't be decoded is lost like a missing one, and
-// so is a good one named by a file that fails to read after it.
+// so is a good one named by a file that fails to read after it. The
+// settings read stay in force.
 const CasoImagen CASOS_IMAGEN[] = {
+    {"Perdida", "Fotos de Begoña/borrada.jpg", nullptr, 100, nullptr},
     {"Ilegible", "foto.img", "no es una imagen", 100, nullptr},
     {"SoloElBloque1", "foto.img", "IMAGEN 400 300", 100, nullptr, true},
     {"SinNombre", " ", nullptr, 100, " 0 x 0"},
@@ -153,16 +151,23 @@ TEST_P(SesionImagenQueNoSirve, SeAnunciaYQuedaEnBlanco) {
     if (c.contenido != nullptr) {
         EscribeFichero(foto, c.contenido);
     }
-    std::string ini = BloquesDeAjustes(foto, c.zoom, 3, 0, {50, 2, 2, 50, 1, 1});
+    FicheroImagen = foto;
+    Zoom = static_cast<int16_t>(c.zoom);
+    ColorFondo = 2;
+    std::string ini = TextoSesion();
     if (c.soloBloque1) {
         ini = DivideLineas(ini)[0] + "\r\n";
     }
     EscribeFichero(programa + "/TESEL32.INI", ini);
+    PreparaPantalla();
+    DirectorioTrabajo = programa;
     RestauraSesion();
     ASSERT_EQ(mensajes.size(), 1u);
     EXPECT_EQ(ColorFondo, 2); // read before any fault: in force
+    EXPECT_EQ(mensajes[0].lineas, 6);
     if (c.medida == nullptr) {
         EXPECT_EQ(mensajes[0].titulo, "Cargar Imagen");
+        EXPECT_EQ(mensajes[0].texto, TextoImagenPerdida(foto));
     } else {
         EXPECT_EQ(mensajes[0].titulo, "Imagen no válida");
         std::string texto = "El  tamaño  de  la  imagen  que  está  intentando  cargar\r\n(";
@@ -171,7 +176,6 @@ TEST_P(SesionImagenQueNoSirve, SeAnunciaYQuedaEnBlanco) {
                  "               Entre 320 y 1.024 pixels de anchura\r\n"
                  "               Entre 240 y 768 pixels de altura";
         EXPECT_EQ(mensajes[0].texto, texto);
-        EXPECT_EQ(mensajes[0].lineas, 6);
         EXPECT_EQ(Zoom, 100);
     }
     EXPECT_EQ(sonidos, std::vector<int16_t>{9});
@@ -185,44 +189,13 @@ TEST_P(SesionImagenQueNoSirve, SeAnunciaYQuedaEnBlanco) {
 INSTANTIATE_TEST_SUITE_P(Limites, SesionImagenQueNoSirve, ::testing::ValuesIn(CASOS_IMAGEN),
                          [](const auto &caso) { return std::string(caso.param.nombre); });
 
-std::string TextoImagenPerdida(const std::string &fichero) {
-    std::string t = "No  se  encuentra  la  imagen  utilizada  en  la  última  sesión:\r\n\r\n";
-    t += fichero;
-    t +=
-        "\r\n\r\nCargue  desde  el  disco  una  imagen  que  sirva  de  fondo\r\npara  el  puzzle.";
-    return t;
-}
-
-TEST_F(Sesion, UnaImagenQueYaNoEstaSeAnunciaYLosAjustesSiguen) {
-    const std::string foto = programa + "/Fotos de Begoña/borrada.jpg";
-    EscribeImagen(programa + "/CASA.JPG", 480, 360);
-    EscribeFichero(programa + "/TESEL32.INI",
-                   AWindows1252(BloquesDeAjustes(foto, 100, 5, 3, {20, 1, 1, 70, 1, 2})));
-    RestauraSesion();
-    ASSERT_EQ(mensajes.size(), 1u);
-    EXPECT_EQ(mensajes[0].titulo, "Cargar Imagen");
-    EXPECT_EQ(mensajes[0].texto, TextoImagenPerdida(foto));
-    EXPECT_EQ(mensajes[0].lineas, 6);
-    EXPECT_EQ(sonidos, std::vector<int16_t>{9});
-    EXPECT_EQ(PiezasPorLado, 5);
-    EXPECT_EQ(TipoPieza, 3);
-    EXPECT_EQ(FactorPegado, 20);
-    EXPECT_EQ(ColorFondo, 1);
-    EXPECT_EQ(Velocidad, 70);
-    EXPECT_EQ(Pistas, 2);
-    EXPECT_EQ(NroPiezas, 50);
-    // Until the dialog exists, the sample stands in.
-    EXPECT_EQ(FicheroImagen, programa + "/CASA.JPG");
-    EXPECT_EQ(ImagenValida, VERDADERO);
-    EXPECT_TRUE(PartidaCoherente());
-}
-
 TEST_F(Sesion, FueraDeLaCarpetaDelProgramaElDialogoAbreEnLaDeTrabajo) {
     const std::string trabajo = datos + "/teselari/";
     fs::create_directories(trabajo);
-    const std::string foto = programa + "/foto.img";
-    EscribeImagen(foto, 400, 300);
-    EscribeFichero(trabajo + "TESEL32.INI", BloquesDeAjustes(foto, 100, 3, 0));
+    JuegaPartida(3, 0);
+    DirectorioTrabajo = trabajo;
+    GuardaSesion();
+    PreparaPantalla();
     DirectorioTrabajo = trabajo;
     RestauraSesion();
     EXPECT_TRUE(mensajes.empty());
@@ -233,11 +206,10 @@ TEST_F(Sesion, FueraDeLaCarpetaDelProgramaElDialogoAbreEnLaDeTrabajo) {
 // A saved game written on Windows names drive "C:": it is not kept, and the
 // next save names the working folder's volume.
 TEST_F(Sesion, UnaUnidadQueNoEstaNoVuelveAlFichero) {
-    const std::string foto = programa + "/foto.img";
-    EscribeImagen(foto, 400, 300);
-    std::string ini = BloquesDeAjustes(foto, 100, 3, 0);
-    ini.replace(ini.find(",\"/\",\"/tmp\""), 12, ",\"C:\",\"/tmp\"");
-    EscribeFichero(programa + "/TESEL32.INI", ini);
+    JuegaPartida(3, 0);
+    UnidadImagen = "C:";
+    GuardaSesion();
+    PreparaPantalla();
     DirectorioTrabajo = programa;
     RestauraSesion();
     EXPECT_EQ(UnidadImagen, UnidadDeCarpeta(programa));

@@ -16,52 +16,39 @@ TEST_F(Sesion, UnaCarpetaDelProgramaQueSePuedeEscribirSeQueda) {
     EXPECT_FALSE(fs::exists(datos));
 }
 
-// The program's files that these tests lay in the program's folder, with
-// their content.
-const std::pair<const char *, const char *> FICHEROS[] = {
-    {"TESEL32.INI", "ini del programa"},
-    {"TESEL32.HIS", "his del programa"},
-    {"CASA.JPG", "casa"},
-    {"TRANVIA.JPG", "tranvia"},
-};
-
 // A folder named CSCD.WRK keeps the marker file from being created, also
-// for a user who may write anywhere.
-void BloqueaEscritura(const std::string &carpeta) {
-    fs::create_directory(carpeta + "/CSCD.WRK");
-}
-
+// for a user who may write anywhere. Each of the program's files holds its
+// name, but CATEDRAL.JPG is missing and 123.BMP already stands in the data
+// folder, which has no initialisation file yet.
 TEST_F(Sesion, UnaCarpetaQueNoSePuedeEscribirPasaALaDeDatosYCopiaUnaVez) {
-    for (const auto &[nombre, contenido] : FICHEROS) {
-        EscribeFichero(programa + "/" + nombre, contenido);
+    const std::string trabajo = datos + "/teselari/";
+    for (const std::string nombre : FicherosPrograma) {
+        if (nombre != "CATEDRAL.JPG") {
+            EscribeFichero(programa + "/" + nombre, nombre);
+        }
     }
     EscribeFichero(programa + "/OTRO.JPG", "no es de la lista");
-    BloqueaEscritura(programa);
-    // One already in the data folder, with no initialisation file: kept.
-    const std::string trabajo = datos + "/teselari/";
-    EscribeFichero(programa + "/123.BMP", "123");
+    fs::create_directory(programa + "/CSCD.WRK");
     fs::create_directories(trabajo);
     EscribeFichero(trabajo + "123.BMP", "cambiada");
 
     CompruebaSiCD();
     EXPECT_EQ(DirectorioTrabajo, trabajo);
     EXPECT_EQ(fs::current_path(), fs::path(datos + "/teselari"));
-    for (const auto &[nombre, contenido] : FICHEROS) {
-        EXPECT_EQ(LeeFichero(trabajo + nombre), contenido) << nombre;
+    for (const std::string nombre : FicherosPrograma) {
+        const std::string copia = nombre == "123.BMP" ? "cambiada" : nombre;
+        EXPECT_EQ(LeeFichero(trabajo + nombre), nombre == "CATEDRAL.JPG" ? "" : copia);
     }
-    EXPECT_EQ(LeeFichero(trabajo + "123.BMP"), "cambiada");
     EXPECT_FALSE(fs::exists(trabajo + "OTRO.JPG"));
-    EXPECT_FALSE(fs::exists(trabajo + "CATEDRAL.JPG")); // missing: skipped
+    EXPECT_FALSE(fs::exists(trabajo + "CATEDRAL.JPG"));
 
     // The game went on from the copy; a second start copies nothing again.
     EscribeFichero(trabajo + "TESEL32.INI", "partida siguiente");
-    EscribeFichero(trabajo + "TESEL32.HIS", "historia siguiente");
     fs::remove(trabajo + "CASA.JPG");
     DirectorioTrabajo = programa;
     CompruebaSiCD();
     EXPECT_EQ(DirectorioTrabajo, trabajo);
     EXPECT_EQ(LeeFichero(trabajo + "TESEL32.INI"), "partida siguiente");
-    EXPECT_EQ(LeeFichero(trabajo + "TESEL32.HIS"), "historia siguiente");
     EXPECT_FALSE(fs::exists(trabajo + "CASA.JPG"));
 }
 
@@ -74,25 +61,22 @@ TEST_F(Sesion, UnaCarpetaBajoUnFicheroTambienPasaALaDeDatos) {
 }
 
 TEST_F(Sesion, LaCarpetaDeDatosSigueAXdgOALaCarpetaPersonal) {
-    struct Caso {
-        const char *xdg; // nullptr: unset
-        std::string esperado;
-    };
     setenv("HOME", (raiz + "/casa").c_str(), 1);
-    const Caso casos[] = {
+    // XDG_DATA_HOME unset (nullptr), or relative and so not valid, leads to
+    // the home folder.
+    const std::pair<const char *, std::string> casos[] = {
         {"/var/datos", "/var/datos/teselari/"},
         {"/var/datos/", "/var/datos/teselari/"},
         {nullptr, raiz + "/casa/.local/share/teselari/"},
-        {"", raiz + "/casa/.local/share/teselari/"},
-        {"relativa/datos", raiz + "/casa/.local/share/teselari/"}, // not valid: passed over
+        {"relativa/datos", raiz + "/casa/.local/share/teselari/"},
     };
-    for (const Caso &c : casos) {
-        if (c.xdg != nullptr) {
-            setenv("XDG_DATA_HOME", c.xdg, 1);
+    for (const auto &[variable, esperado] : casos) {
+        if (variable != nullptr) {
+            setenv("XDG_DATA_HOME", variable, 1);
         } else {
             unsetenv("XDG_DATA_HOME");
         }
-        EXPECT_EQ(DirectorioDatos(), c.esperado) << (c.xdg ? c.xdg : "(unset)");
+        EXPECT_EQ(DirectorioDatos(), esperado) << (variable ? variable : "(unset)");
     }
 }
 
@@ -106,19 +90,15 @@ TEST_F(Sesion, LaCarpetaDelProgramaSeGuardaSinBarraFinal) {
 }
 
 TEST_F(Sesion, LaCarpetaDelProgramaInstaladoEsLaDeDatosJuntoAlEjecutable) {
-    fs::create_directories(raiz + "/usr/bin");
+    const std::string bin = raiz + "/usr/bin";
+    fs::create_directories(bin);
     fs::create_directories(raiz + "/usr/share/teselari");
-    struct Caso {
-        std::string ejecutable, relativa, esperada;
-    };
-    const Caso casos[] = {
-        {raiz + "/usr/bin", "../share/teselari", raiz + "/usr/share/teselari"},
-        {raiz + "/usr/bin", "../share/otra", raiz + "/usr/bin"}, // not installed: the build tree
-        {raiz + "/usr/bin", "", raiz + "/usr/bin"},
-        {programa, "../share/teselari", programa},
-    };
-    for (const Caso &c : casos) {
-        EXPECT_EQ(CarpetaDelPrograma(c.ejecutable, c.relativa), c.esperada) << c.relativa;
+    // Where the data folder is not there, the program runs from its build
+    // tree.
+    const std::pair<const char *, std::string> casos[] = {
+        {"../share/teselari", raiz + "/usr/share/teselari"}, {"../share/otra", bin}, {"", bin}};
+    for (const auto &[relativa, esperada] : casos) {
+        EXPECT_EQ(CarpetaDelPrograma(bin, relativa), esperada) << relativa;
     }
 }
 
